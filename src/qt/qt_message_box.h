@@ -1,0 +1,13 @@
+#pragma once
+// The platform message box as a Qt message box: modal, with the standard icon, one OK button.
+
+#include "platform/message_box.h"
+
+namespace trovane::qt {
+
+class QtMessageBox final : public MessageBox {
+  public:
+    void Show(const std::string& text, const std::string& title, MessageIcon icon) override;
+};
+
+}  // namespace trovane::qt

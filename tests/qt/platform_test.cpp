@@ -1,0 +1,171 @@
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWidget>
+
+#include "qt/input_activity.h"
+#include "qt/notification_pump.h"
+#include "qt/qt_window_system.h"
+#include "qt/twips.h"
+#include "support/qt_application.h"
+
+namespace trovane::qt {
+namespace {
+
+class FixedClock final : public Clock {
+  public:
+    Date Now() override { return Date{}; }
+    uint32_t TickCount() override { return ticks; }
+    uint32_t ticks = 5000;
+};
+
+class QtWindowSystemTest : public ::testing::Test {
+  protected:
+    QtWindowSystemTest() { trovane::testing::TestApplication(); }
+    std::shared_ptr<FixedClock> clock = std::make_shared<FixedClock>();
+    std::shared_ptr<InputActivity> activity = std::make_shared<InputActivity>(clock);
+    QtWindowSystem windows{activity};
+};
+
+TEST(Twips, FifteenTwipsPerPixelAtNinetySixDpi) {
+    EXPECT_DOUBLE_EQ(TwipsPerPixelAt(96.0), 15.0);
+    EXPECT_EQ(TwipsToPixels(1440, 15.0), 96);
+    EXPECT_EQ(TwipsToPixels(22, 15.0), 1);  // 1.47 rounds to the nearest pixel
+    EXPECT_EQ(PixelsToTwips(10, 15.0), 150);
+    EXPECT_DOUBLE_EQ(TwipsPerPixelAt(0.0), 15.0);  // a screen that reports no density
+}
+
+TEST_F(QtWindowSystemTest, HandlesAreStablePerWindowAndZeroIsNoWindow) {
+    QWidget frame;
+    QWidget other;
+    const int32_t handle = windows.HandleOf(&frame);
+    EXPECT_NE(handle, 0);
+    EXPECT_EQ(windows.HandleOf(&frame), handle);
+    EXPECT_NE(windows.HandleOf(&other), handle);
+    EXPECT_EQ(windows.WindowOf(handle), &frame);
+    EXPECT_EQ(windows.WindowOf(0), nullptr);
+    EXPECT_EQ(windows.HandleOf(nullptr), 0);
+}
+
+TEST_F(QtWindowSystemTest, ForgetsAWindowThatIsGone) {
+    auto dialog = std::make_unique<QDialog>();
+    const int32_t handle = windows.HandleOf(dialog.get());
+    dialog.reset();
+    EXPECT_EQ(windows.WindowOf(handle), nullptr);
+    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 3);  // must not touch the dead window
+    EXPECT_EQ(windows.GetWindowLong(handle, -20), 0);
+}
+
+TEST_F(QtWindowSystemTest, OwnerSlotMakesTheFrameTheOwnerAndKeepsTheDialogATopLevelWindow) {
+    QWidget frame;
+    QDialog dialog;
+    const int32_t frameHandle = windows.HandleOf(&frame);
+    const int32_t dialogHandle = windows.HandleOf(&dialog);
+    windows.SetWindowLong(dialogHandle, -8, frameHandle);
+    EXPECT_EQ(dialog.parentWidget(), &frame);
+    EXPECT_TRUE(dialog.isWindow());
+    EXPECT_EQ(windows.GetWindowLong(dialogHandle, -8), frameHandle);
+}
+
+TEST_F(QtWindowSystemTest, TopmostBandIsTheStaysOnTopHint) {
+    QWidget frame;
+    const int32_t handle = windows.HandleOf(&frame);
+    EXPECT_EQ(windows.GetWindowLong(handle, -20) & 8, 0);
+    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 3);
+    EXPECT_EQ(windows.GetWindowLong(handle, -20) & 8, 8);
+    EXPECT_TRUE(frame.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+TEST_F(QtWindowSystemTest, NoZOrderFlagLeavesTheBandAlone) {
+    QWidget frame;
+    const int32_t handle = windows.HandleOf(&frame);
+    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 1 | 2 | 4 | 32);
+    EXPECT_EQ(windows.GetWindowLong(handle, -20), 0);
+}
+
+TEST_F(QtWindowSystemTest, MoveAndSizeUnlessTheFlagsSayNot) {
+    QWidget frame;
+    frame.resize(100, 50);
+    const int32_t handle = windows.HandleOf(&frame);
+    windows.SetWindowPos(handle, 0, 30, 40, 200, 120, 4);
+    EXPECT_EQ(frame.pos(), QPoint(30, 40));
+    EXPECT_EQ(frame.size(), QSize(200, 120));
+    windows.SetWindowPos(handle, 0, 0, 0, 10, 10, 1 | 2 | 4);
+    EXPECT_EQ(frame.pos(), QPoint(30, 40));
+    EXPECT_EQ(frame.size(), QSize(200, 120));
+}
+
+TEST_F(QtWindowSystemTest, WorkAreaOfTheScreenUnderThePoint) {
+    const ScreenRect area = windows.NearestWorkArea(ScreenPoint{10, 10});
+    EXPECT_GT(area.right, area.left);
+    EXPECT_GT(area.bottom, area.top);
+    // A point far outside every screen still gets the nearest screen's work area.
+    const ScreenRect far = windows.NearestWorkArea(ScreenPoint{100000, 100000});
+    EXPECT_EQ(far.right - far.left, area.right - area.left);
+}
+
+TEST_F(QtWindowSystemTest, LastInputTimeComesFromApplicationWideInput) {
+    activity->Install();
+    EXPECT_FALSE(windows.LastInputTime().has_value());
+    QWidget target;
+    clock->ticks = 7777;
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    QApplication::sendEvent(&target, &press);
+    ASSERT_TRUE(windows.LastInputTime().has_value());
+    EXPECT_EQ(*windows.LastInputTime(), 7777u);
+    // A paint or timer event is not operator input.
+    clock->ticks = 9000;
+    QEvent other(QEvent::UpdateRequest);
+    QApplication::sendEvent(&target, &other);
+    EXPECT_EQ(*windows.LastInputTime(), 7777u);
+}
+
+TEST(NotificationPump, DeliversOnTheEventLoopAndNeverInsideItself) {
+    trovane::testing::TestApplication();
+    int deliveries = 0;
+    std::unique_ptr<NotificationPump> pump;
+    pump = std::make_unique<NotificationPump>([&] {
+        ++deliveries;
+        pump->DeliverNow();  // a nested event loop ticking again is ignored
+    });
+    pump->DeliverNow();
+    EXPECT_EQ(deliveries, 1);
+}
+
+TEST(NotificationPump, AFailingCallbackDoesNotEscapeIntoTheEventLoop) {
+    trovane::testing::TestApplication();
+    int deliveries = 0;
+    NotificationPump pump([&] {
+        ++deliveries;
+        throw std::runtime_error("bad notification");
+    });
+    EXPECT_NO_THROW(pump.DeliverNow());
+    EXPECT_NO_THROW(pump.DeliverNow());
+    EXPECT_EQ(deliveries, 2);
+}
+
+TEST(NotificationPump, TimerTicksDeliver) {
+    trovane::testing::TestApplication();
+    int deliveries = 0;
+    NotificationPump pump([&] { ++deliveries; }, 1);
+    pump.Start();
+    EXPECT_TRUE(pump.IsRunning());
+    QEventLoop loop;
+    QTimer::singleShot(2000, &loop, &QEventLoop::quit);
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (deliveries > 0) loop.quit();
+    });
+    poll.start(1);
+    loop.exec();
+    pump.Stop();
+    EXPECT_GT(deliveries, 0);
+}
+
+}  // namespace
+}  // namespace trovane::qt
