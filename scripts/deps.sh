@@ -7,7 +7,7 @@ packages=(
     libgtest-dev libgmock-dev libbenchmark-dev
     nlohmann-json3-dev
     qt6-base-dev
-    binutils-mingw-w64-x86-64
+    binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
     clang libclang-rt-14-dev
 )
 

@@ -1,5 +1,10 @@
 #include "platform/platform_services.h"
 
+#include "platform/color_scheme.h"
+#include "platform/headless_window_system.h"
+
+#include "platform/pe_resource_files.h"
+
 namespace trovane {
 
 PlatformServices PlatformServices::Defaults() {
@@ -8,6 +13,9 @@ PlatformServices PlatformServices::Defaults() {
     services.clock = std::make_shared<SystemClock>();
     services.locale = std::make_shared<DefaultLocale>();
     services.files = std::make_shared<LocalFiles>();
+    services.windows = std::make_shared<HeadlessWindowSystem>();
+    services.colorTool = std::make_shared<ColorScheme>(services.files);
+    services.resources = std::make_shared<PeResourceFiles>(services.files);
     return services;
 }
 
