@@ -1,0 +1,148 @@
+#include "platform/controls/list_view.h"
+
+#include <algorithm>
+
+#include "platform/controls/control_errors.h"
+
+namespace trovane {
+
+namespace {
+constexpr int16_t kPageUp = 33;
+constexpr int16_t kPageDown = 34;
+constexpr int16_t kEnd = 35;
+constexpr int16_t kHome = 36;
+constexpr int16_t kUp = 38;
+constexpr int16_t kDown = 40;
+constexpr int32_t kRowsPerPage = 10;
+}  // namespace
+
+ListView::ListView(std::string name) : Control(std::move(name), "ListView") {
+    smallIcons_.onChanged.Connect([this] { onListChanged.Emit(ListViewChange::ImagesChanged, 0); });
+}
+
+int32_t ListView::AddColumn(std::string text, int32_t width) {
+    if (width < 0) throw InvalidPropertyValue();
+    columns_.push_back(ColumnHeader{std::move(text), width});
+    onListChanged.Emit(ListViewChange::ColumnAdded, ColumnCount());
+    return ColumnCount();
+}
+
+size_t ListView::ColumnSlot(int32_t position) const {
+    if (position < 1 || position > ColumnCount()) throw IndexOutOfBounds();
+    return static_cast<size_t>(position - 1);
+}
+
+const ColumnHeader& ListView::Column(int32_t position) const {
+    return columns_[ColumnSlot(position)];
+}
+
+void ListView::SetColumnText(int32_t position, std::string text) {
+    ColumnHeader& column = columns_[ColumnSlot(position)];
+    if (column.text == text) return;
+    column.text = std::move(text);
+    onListChanged.Emit(ListViewChange::ColumnChanged, position);
+}
+
+void ListView::SetColumnWidth(int32_t position, int32_t width) {
+    if (width < 0) throw InvalidPropertyValue();
+    ColumnHeader& column = columns_[ColumnSlot(position)];
+    if (column.width == width) return;
+    column.width = width;
+    onListChanged.Emit(ListViewChange::ColumnChanged, position);
+}
+
+void ListView::ClearColumns() {
+    if (columns_.empty()) return;
+    columns_.clear();
+    onListChanged.Emit(ListViewChange::ColumnsCleared, 0);
+}
+
+ListItem& ListView::AddItem(std::string text, std::string key, int32_t smallIcon) {
+    if (!key.empty() && FindItem(key) != nullptr) throw KeyNotUnique();
+    items_.push_back(std::make_unique<ListItem>(*this, std::move(text), std::move(key), smallIcon));
+    items_.back()->index_ = ItemCount();
+    onListChanged.Emit(ListViewChange::RowAdded, ItemCount());
+    return *items_.back();
+}
+
+ListItem& ListView::Item(int32_t index) const {
+    if (index < 1 || index > ItemCount()) throw IndexOutOfBounds();
+    return *items_[static_cast<size_t>(index - 1)];
+}
+
+ListItem* ListView::FindItem(std::string_view key) const {
+    if (key.empty()) return nullptr;
+    const auto found =
+        std::find_if(items_.begin(), items_.end(), [&](const auto& item) { return item->Key() == key; });
+    return found == items_.end() ? nullptr : found->get();
+}
+
+void ListView::RemoveItem(int32_t index) {
+    ListItem& item = Item(index);
+    if (selected_ == &item) SelectItem(nullptr);
+    items_.erase(items_.begin() + (index - 1));
+    Renumber();
+    onListChanged.Emit(ListViewChange::RowRemoved, index);
+}
+
+void ListView::ClearItems() {
+    if (items_.empty()) return;
+    selected_ = nullptr;
+    items_.clear();
+    onListChanged.Emit(ListViewChange::RowsCleared, 0);
+}
+
+void ListView::Renumber() {
+    for (size_t i = 0; i < items_.size(); ++i) items_[i]->index_ = static_cast<int32_t>(i + 1);
+}
+
+void ListView::SelectItem(ListItem* item) {
+    if (item == selected_) return;
+    if (selected_ != nullptr) selected_->selected_ = false;
+    selected_ = item;
+    if (item != nullptr) item->selected_ = true;
+    onListChanged.Emit(ListViewChange::SelectionChanged, item != nullptr ? item->Index() : 0);
+}
+
+void ListView::ClickItem(int32_t index) {
+    if (!AcceptsInput()) return;
+    ListItem& item = Item(index);
+    SelectItem(&item);
+    onItemClick.Emit(item);
+    onClick.Emit();
+}
+
+// The navigation keys move the selection between KeyDown and KeyUp; without a selection every one
+// of them lands on the first row.
+void ListView::ApplyKey(int16_t keyCode, int16_t /*shift*/) {
+    if (items_.empty()) return;
+    const int32_t last = ItemCount();
+    const int32_t current = selected_ != nullptr ? selected_->Index() : 0;
+    int32_t target = 0;
+    switch (keyCode) {
+        case kUp:
+            target = current - 1;
+            break;
+        case kDown:
+            target = current + 1;
+            break;
+        case kPageUp:
+            target = current - kRowsPerPage;
+            break;
+        case kPageDown:
+            target = current + kRowsPerPage;
+            break;
+        case kHome:
+            target = 1;
+            break;
+        case kEnd:
+            target = last;
+            break;
+        default:
+            return;
+    }
+    if (current == 0) target = 1;
+    SelectItem(&Item(std::clamp(target, 1, last)));
+}
+
+}  // namespace trovane

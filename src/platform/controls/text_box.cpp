@@ -1,0 +1,144 @@
+#include "platform/controls/text_box.h"
+
+#include <algorithm>
+
+#include "core/conversions.h"
+#include "platform/controls/control_errors.h"
+
+namespace trovane {
+
+namespace {
+constexpr int16_t kBackspace = 8;
+constexpr int16_t kEnter = 13;
+constexpr int16_t kEnd = 35;
+constexpr int16_t kHome = 36;
+constexpr int16_t kLeft = 37;
+constexpr int16_t kRight = 39;
+constexpr int16_t kDelete = 46;
+
+int32_t LengthOf(const std::string& text) {
+    return static_cast<int32_t>(text.size());
+}
+}  // namespace
+
+// The new text and the caret are both in place before Change is raised, so that a handler sees a
+// consistent box and may set the text back.
+void TextBox::SetText(std::string text) {
+    if (text == text_) return;
+    text_ = std::move(text);
+    const bool selectionMoved = selStart_ != 0 || selLength_ != 0;
+    selStart_ = 0;
+    selLength_ = 0;
+    onChanged.Emit(ControlProperty::Text);
+    if (selectionMoved) onChanged.Emit(ControlProperty::Selection);
+    onChange.Emit();
+}
+
+void TextBox::SetMaxLength(int32_t maxLength) {
+    if (maxLength < 0) throw InvalidPropertyValue();
+    Assign(maxLength_, maxLength, ControlProperty::MaxLength);
+}
+
+void TextBox::SetSelStart(int32_t start) {
+    if (start < 0) throw InvalidPropertyValue();
+    SetSelection(std::min(start, LengthOf(text_)), 0);
+}
+
+void TextBox::SetSelLength(int32_t length) {
+    if (length < 0) throw InvalidPropertyValue();
+    SetSelection(selStart_, std::min(length, LengthOf(text_) - selStart_));
+}
+
+void TextBox::SetSelection(int32_t start, int32_t length) {
+    if (start == selStart_ && length == selLength_) return;
+    selStart_ = start;
+    selLength_ = length;
+    onChanged.Emit(ControlProperty::Selection);
+}
+
+void TextBox::SetSelText(const std::string& text) {
+    std::string updated = text_.substr(0, selStart_) + text + text_.substr(selStart_ + selLength_);
+    const int32_t caret = selStart_ + LengthOf(text);
+    if (updated == text_) {
+        SetSelection(caret, 0);
+        return;
+    }
+    text_ = std::move(updated);
+    selStart_ = caret;
+    selLength_ = 0;
+    onChanged.Emit(ControlProperty::Text);
+    onChanged.Emit(ControlProperty::Selection);
+    onChange.Emit();
+}
+
+void TextBox::ApplyKey(int16_t keyCode, int16_t /*shift*/) {
+    const int32_t length = LengthOf(text_);
+    switch (keyCode) {
+        case kHome:
+            SetSelection(0, 0);
+            break;
+        case kEnd:
+            SetSelection(length, 0);
+            break;
+        case kLeft:
+            SetSelection(std::max(selStart_ - 1, 0), 0);
+            break;
+        case kRight:
+            SetSelection(std::min(selStart_ + selLength_ + 1, length), 0);
+            break;
+        case kDelete:
+            if (locked_) break;
+            if (selLength_ == 0 && selStart_ < length) SetSelection(selStart_, 1);
+            SetSelText("");
+            break;
+        default:
+            break;
+    }
+}
+
+void TextBox::ApplyCharacter(int16_t keyAscii) {
+    if (locked_) return;
+    if (keyAscii == kBackspace) {
+        if (selLength_ == 0 && selStart_ > 0) SetSelection(selStart_ - 1, 1);
+        SetSelText("");
+        return;
+    }
+    if (keyAscii < 32 && !(keyAscii == kEnter && multiLine_)) return;
+    const std::string typed =
+        keyAscii == kEnter ? std::string("\r\n") : std::string(1, static_cast<char>(keyAscii));
+    if (maxLength_ > 0 && LengthOf(text_) - selLength_ + LengthOf(typed) > maxLength_) return;
+    SetSelText(typed);
+}
+
+Variant TextBox::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {
+    auto is = [&](std::string_view name) { return EqualsIgnoringCase(member, name); };
+    if (is("Text"))
+        return Property(
+            kind, args, [&] { return Variant(text_); }, [&](const Variant& v) { SetText(ToString(v)); });
+    if (is("Locked"))
+        return Property(
+            kind, args, [&] { return Variant(locked_); }, [&](const Variant& v) { SetLocked(ToBool(v)); });
+    if (is("MaxLength"))
+        return Property(
+            kind, args, [&] { return Variant(maxLength_); },
+            [&](const Variant& v) { SetMaxLength(ToInt32(v)); });
+    if (is("MultiLine"))
+        return Property(
+            kind, args, [&] { return Variant(multiLine_); },
+            [&](const Variant& v) { SetMultiLine(ToBool(v)); });
+    if (is("SelStart"))
+        return Property(
+            kind, args, [&] { return Variant(selStart_); },
+            [&](const Variant& v) { SetSelStart(ToInt32(v)); });
+    if (is("SelLength"))
+        return Property(
+            kind, args, [&] { return Variant(selLength_); },
+            [&](const Variant& v) { SetSelLength(ToInt32(v)); });
+    if (is("SelText"))
+        return Property(
+            kind, args, [&] { return Variant(SelText()); },
+            [&](const Variant& v) { SetSelText(ToString(v)); });
+    return Control::Invoke(member, kind, args);
+}
+
+}  // namespace trovane
