@@ -1,0 +1,69 @@
+#pragma once
+// ErrorDlg: the small modeless dialog that shows an error to the operator.
+//
+// The dialog shows one text (Label1) under the title text 271 with an OK button (Command1, caption
+// from text 270) and closes itself once the workstation has been left alone for the dialog
+// time-out. The countdown runs on Timer1, one tick a second: every tick with operator input in the
+// last second starts it again at the full time-out, every other tick takes one off, and the tick
+// that finds nothing left unloads the dialog. With a time-out of n seconds and nobody at the
+// workstation it closes on the n-th tick; a time-out of 1 or less closes on the first.
+//
+// The dialog speaks the caller's language and reads the caller's time-out: the caller hands it its
+// language, start information and string replacement list, and the dialog configures a
+// CommonFunctions object of its own with them, which lives as long as the dialog.
+//
+// There is one shared instance for the whole library (SharedErrorDlg), created on first use and
+// reused by every ShowError; MakeCleanup unloads and releases it. Unloading the dialog (OK or the
+// countdown) only hides it: the next ShowError loads it again.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "common/common_functions.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+#include "platform/controls/label.h"
+#include "platform/controls/timer.h"
+
+namespace trovane {
+
+class ErrorDlg : public Form {
+  public:
+    static constexpr int32_t kTitleText = 271;
+    static constexpr int32_t kTickMilliseconds = 1000;
+
+    explicit ErrorDlg(PlatformServices platform);
+
+    // What the caller hands over before showing the dialog, in this order.
+    void SetErrorText(std::string text);
+    void SetLanguage(const std::string& language);
+    void SetStartInfo(const Variant& startInfo);
+    void SetStringReplacementList(const Variant& list);
+
+    const std::string& ErrorText() const { return errorText; }
+    CommonFunctions& Functions() { return *functions; }
+
+    Label& Label1;
+    CommandButton& Command1;
+    Timer& Timer1;
+
+    int32_t timeoutSeconds = 0;
+    int32_t remainingTicks = 0;
+
+  private:
+    void OnLoad();
+    void OnTick();
+    bool OperatorIsActive();
+
+    std::unique_ptr<CommonFunctions> functions;
+    std::string errorText;
+};
+
+// The shared dialog, created with the caller's platform services when there is none. Creating it
+// registers it with MakeCleanup.
+ErrorDlg& SharedErrorDlg(const PlatformServices& platform);
+// The shared dialog if it exists, else nullptr.
+ErrorDlg* ExistingErrorDlg();
+
+}  // namespace trovane
