@@ -42,7 +42,7 @@ PanelSubscription::~PanelSubscription() {
 }
 
 void PanelSubscription::Activate(const Variant& server, std::vector<SubscribedItem> subscribedItems,
-                                 SysDataCallback& callback) {
+                                 SysDataCallback& callback, int32_t updateRate) {
     std::vector<std::string> paths;
     for (const SubscribedItem& item : subscribedItems) paths.push_back(item.path);
     const SubscriptionRequest request = BuildSubscriptionRequest(paths);
@@ -52,7 +52,7 @@ void PanelSubscription::Activate(const Variant& server, std::vector<SubscribedIt
     connection = ConnectionOf(subsServer);
     if (!connection) throw Error(ErrorNumber::ObjectNotSet, "subscription connection");
     Variant results;
-    connection->AddItems(request.clientHandles, request.itemPaths, kUpdateRate, subscriptionHandle, results);
+    connection->AddItems(request.clientHandles, request.itemPaths, updateRate, subscriptionHandle, results);
     connection->SetCallback(&callback, subscriptionHandle);
 }
 

@@ -70,8 +70,9 @@ class PanelSubscription {
 
     // Keeps the connection, subscribes the items and sets the callback. A connection that is
     // Nothing raises "object not set" (91); the connection's own errors reach the caller too.
+    // A panel whose item changes often may ask for a slower update rate (the alarm panel's 500).
     void Activate(const Variant& subsServer, std::vector<SubscribedItem> subscribedItems,
-                  SysDataCallback& callback);
+                  SysDataCallback& callback, int32_t updateRate = kUpdateRate);
     void Deactivate();
     // Asks for the current values again; nothing happens while inactive.
     void Refresh();
