@@ -1,0 +1,133 @@
+// The alarm panel's list: rebuilding it from the server, selecting a row, acknowledging alarms.
+
+#include "alarms/alarms.h"
+
+#include "core/checked_int.h"
+#include "core/conversions.h"
+
+namespace trovane {
+
+namespace {
+constexpr int32_t kObjectTextId = 278;
+constexpr int32_t kAlarmStateTextId = 279;
+
+// The list and the acknowledge loops count with 16-bit integers, so a bound beyond 32767 is an
+// overflow error, raised before the walk starts; within the range the walk itself cannot overflow.
+int16_t UpperBound16(int32_t upperBound) {
+    return CheckedNarrow<int16_t>(upperBound);
+}
+}  // namespace
+
+Variant Alarms::RunVexlCmd(const std::string& command) const {
+    std::vector<Variant> args{Variant(command)};
+    return CallMethod(container, "RunVexlCmd", std::span<Variant>(args));
+}
+
+bool Alarms::IsAlarmHandlingAllowed() const {
+    return ToBool(CallMethod(container, "IsAlarmHandlingAllowed"));
+}
+
+std::string Alarms::Text(int32_t id) const {
+    return ToString(CallMethod(container, "GetNlsString", {Variant(id)}));
+}
+
+void Alarms::RefreshAlarms() {
+    if (DisableUpdate) return;
+    rowIdentities.clear();
+    EnsureColumns();
+    ListView1.ClearItems();
+    const Variant alarmList = services.GetListItem(CallMethod(container, "GetAlarms"), "COMBO_LIST");
+    anyUnacknowledged = false;
+
+    ListItem* reselected = nullptr;
+    if (alarmList.IsArray()) {
+        const VariantArray& elements = alarmList.AsArray();
+        const int16_t upper = UpperBound16(elements.UpperBound());
+        for (int32_t i = 1; i <= upper; ++i) {
+            const std::optional<AlarmRow> row =
+                ClassifyAlarmElement(elements.Contains(i) ? elements.At(i) : Variant());
+            if (!row) continue;
+            ListItem* item = AddRow(*row);
+            if (CanSelectSingleBlocking && row->identity == rememberedSignal) {
+                ListView1.SelectItem(item);
+                reselected = item;
+            }
+        }
+    }
+
+    btnAck.SetEnabled(IsAlarmHandlingAllowed() && anyUnacknowledged);
+    btnAckSelected.SetEnabled(false);
+    if (CanSelectSingleBlocking) {
+        if (reselected == nullptr)
+            CallMethod(container, "SetSingleBlocking", {Variant(false)});
+        else
+            SelectRow(false);
+    }
+    FitColumns();
+}
+
+void Alarms::EnsureColumns() {
+    if (ListView1.ColumnCount() > 0) return;
+    ListView1.AddColumn("");
+    ListView1.AddColumn(Text(kObjectTextId));
+    ListView1.AddColumn(Text(kAlarmStateTextId));
+}
+
+ListItem* Alarms::AddRow(const AlarmRow& row) {
+    ListItem& item = ListView1.AddItem("", row.key, row.state->iconPosition);
+    rowIdentities.push_back(row.identity);
+    item.SetSubItem(1, row.signalText);
+    item.SetSubItem(2, Text(row.state->stateTextId));
+    if (!row.tag.empty()) {
+        item.SetTag(row.tag);
+        anyUnacknowledged = true;
+    }
+    // An alarm that can no longer be acknowledged is drawn greyed.
+    if (row.ghosted) item.SetGhosted(true);
+    return &item;
+}
+
+// The selection step, run by a click and by the navigation keys (which freeze the list), and after
+// a rebuild for the reselected row (which must not freeze it).
+void Alarms::SelectRow(bool freezeUpdates) {
+    if (freezeUpdates) DisableUpdate = true;
+    const ListItem* row = ListView1.SelectedItem();
+    if (row == nullptr) return;
+    btnAckSelected.SetEnabled(CanBeAcknowledged(row->Key(), row->Tag()) && IsAlarmHandlingAllowed());
+    const size_t position = static_cast<size_t>(row->Index() - 1);
+    if (CanSelectSingleBlocking && position < rowIdentities.size()) HandOverSignal(rowIdentities[position]);
+}
+
+// Makes the signal "name:index" the blocking panel's signal, when its index part is a number.
+void Alarms::HandOverSignal(const std::string& identity) {
+    const size_t colon = identity.find(':');
+    if (colon == std::string::npos) return;
+    const std::string name = identity.substr(0, colon);
+    const size_t next = identity.find(':', colon + 1);
+    const std::string index =
+        identity.substr(colon + 1, next == std::string::npos ? std::string::npos : next - colon - 1);
+    if (!IsNumeric(std::string_view(index))) return;
+    CallMethod(container, "SetBlockedSignal", {Variant(name), Variant(ToInt32(Variant(index)))});
+    CallMethod(container, "SetSingleBlocking", {Variant(true)});
+    rememberedSignal = identity;
+}
+
+void Alarms::AcknowledgeAll() {
+    std::vector<std::string> keys;
+    const int16_t rows = UpperBound16(ListView1.ItemCount());
+    for (int32_t i = 1; i <= rows; ++i) {
+        const ListItem& row = ListView1.Item(i);
+        if (CanBeAcknowledged(row.Key(), row.Tag())) keys.push_back(row.Key());
+    }
+    // The server's change notification refreshes the list, not the button.
+    for (const std::string& key : keys) RunVexlCmd(AcknowledgeCommand(key));
+}
+
+void Alarms::AcknowledgeSelected() {
+    btnAckSelected.SetEnabled(false);
+    DisableUpdate = false;
+    const ListItem* row = ListView1.SelectedItem();
+    if (row != nullptr && !row->Tag().empty()) RunVexlCmd(AcknowledgeCommand(row->Key()));
+}
+
+}  // namespace trovane

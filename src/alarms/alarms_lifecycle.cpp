@@ -1,0 +1,90 @@
+// The alarm panel's life with its host: set-up, subscription, notifications and fresh data.
+
+#include "alarms/alarms.h"
+
+#include "alarms/alarm_icons.h"
+#include "common/panel_captions.h"
+#include "common/panel_items.h"
+#include "core/conversions.h"
+#include "platform/trace.h"
+
+namespace trovane {
+
+namespace {
+constexpr int16_t kKeyUp = 38;
+constexpr int16_t kKeyDown = 40;
+constexpr int16_t kKeyPageUp = 33;
+constexpr int16_t kKeyPageDown = 34;
+constexpr int16_t kKeyHome = 36;
+constexpr int16_t kKeyEnd = 35;
+
+bool IsNavigationKey(int16_t keyCode) {
+    return keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyPageUp || keyCode == kKeyPageDown ||
+           keyCode == kKeyHome || keyCode == kKeyEnd;
+}
+}  // namespace
+
+void Alarms::ConnectEvents() {
+    ListView1.onClick.Connect([this] { SelectRow(true); });
+    // On key up the list has already moved its selection to the row the key leads to.
+    ListView1.onKeyUp.Connect([this](int16_t& keyCode, int16_t) {
+        if (IsNavigationKey(keyCode)) SelectRow(true);
+    });
+    btnAck.onClick.Connect([this] { AcknowledgeAll(); });
+    btnAckSelected.onClick.Connect([this] { AcknowledgeSelected(); });
+    btnRefresh.onClick.Connect([this] { RequestFreshData(); });
+}
+
+Variant Alarms::Init() {
+    DebugInfo("-> Alarms.Init");
+    SetCaptionsFromTags(*this, ContainerTexts(container));
+    CallMethod(container, "SetCharsetValues", {ControlsObject()});
+    LoadIcons();
+    DebugInfo("<- Alarms.Init");
+    return Variant();
+}
+
+// The image list is rebuilt in full, so a second Init keeps every icon at its position.
+void Alarms::LoadIcons() {
+    const std::string root = ToString(RunVexlCmd(std::string(kRootDirectoryCommand)));
+    const std::string applicationName = ToString(RunVexlCmd(std::string(kApplicationNameCommand)));
+    ListView1.SmallIcons().Clear();
+    LoadAlarmIcons(ListView1.SmallIcons(), *services.Platform().files,
+                   IconDirectoriesFor(root, applicationName), Picture1.GetPicture());
+}
+
+Variant Alarms::Activate(int16_t App, const Variant& subsServer) {
+    isActive = true;
+    Init();
+    subscription.Activate(subsServer,
+                          {{ApplicationItemPath(App, "AT"), [this](const Variant&) { RefreshAlarms(); }}},
+                          *this, kUpdatePeriod);
+    return Variant();
+}
+
+void Alarms::Deactivate() {
+    subscription.Deactivate();
+}
+
+// A notification comes from the connection, not from the host: a failing rebuild is traced and
+// goes no further.
+void Alarms::OnDataChange(int32_t, int32_t, int32_t count, const Variant& clientHandles,
+                          const Variant& values, const Variant&, const Variant&) {
+    try {
+        subscription.Dispatch(count, clientHandles, values);
+    } catch (const std::exception&) {
+        DebugInfo("<- Alarms.ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
+    }
+}
+
+// The Refresh button does not rebuild the list itself: the fresh values' notification does.
+void Alarms::RequestFreshData() {
+    DisableUpdate = false;
+    if (isActive) {
+        if (subscription.IsActive() && subscription.SubscriptionHandle() != 0) subscription.Refresh();
+    } else {
+        CallMethod(container, "RefreshSubscriptions");
+    }
+}
+
+}  // namespace trovane
