@@ -1,0 +1,233 @@
+#include "platform/controls/form.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/conversions.h"
+#include "core/error.h"
+#include "platform/controls/controls.h"
+#include "platform/late_bound.h"
+
+namespace trovane {
+namespace {
+
+int32_t ErrorNumberOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+class FormTest : public ::testing::Test {
+  protected:
+    FormTest() {
+        form->Add<Label>("lblInfo").SetTag("412");
+        form->Add<CommandButton>("btnOK").SetTag("413");
+        form->Add<CommandButton>("btnCancel");
+        form->Add<CheckBox>("chkCounterInUse").SetTag("420");
+        form->Add<Timer>("Timer1");
+    }
+    std::shared_ptr<Form> form = std::make_shared<Form>("frmTest");
+};
+
+TEST_F(FormTest, ControlsKeepTheirOrderForTypeAndTagLoops) {
+    std::vector<std::string> tagged;
+    for (Control& control : form->Controls())
+        if (control.TypeName() == "CommandButton" && !control.Tag().empty()) tagged.push_back(control.Name());
+    EXPECT_EQ(tagged, (std::vector<std::string>{"btnOK"}));
+    std::vector<std::string> kinds;
+    for (Control& control : form->Controls()) kinds.push_back(control.TypeName());
+    EXPECT_EQ(kinds,
+              (std::vector<std::string>{"Label", "CommandButton", "CommandButton", "CheckBox", "Timer"}));
+}
+
+TEST_F(FormTest, ControlsAreFoundByNameWithoutRegardToCase) {
+    EXPECT_EQ(form->Find("BTNOK"), &form->Get<CommandButton>("btnOK"));
+    EXPECT_EQ(form->Find("nothing"), nullptr);
+    EXPECT_EQ(form->FindAs<Label>("btnOK"), nullptr);  // wrong kind
+    EXPECT_EQ(ErrorNumberOf([&] { form->Get<Label>("missing"); }), 438);
+}
+
+TEST_F(FormTest, ControlArrayElementsAreFoundByIndex) {
+    form->Add<Frame>("Frame1", 1);
+    form->Add<Frame>("Frame1", 0);
+    const auto elements = form->ArrayElements("frame1");
+    ASSERT_EQ(elements.size(), 2u);
+    EXPECT_EQ(elements[0]->Index(), 0);
+    EXPECT_EQ(form->Find("Frame1"), nullptr);  // an array is only reached with an index
+    EXPECT_EQ(ErrorNumberOf([&] { form->Get<Frame>("Frame1", 2); }), 340);
+    EXPECT_EQ(ErrorNumberOf([&] { form->Add<Frame>("Frame1", 1); }), 360);
+}
+
+TEST_F(FormTest, RemovingAFrameReleasesItsContents) {
+    Frame& frame = form->Add<Frame>("Frame1", 1);
+    TextBox& box = form->Add<TextBox>("txtAttr", 1);
+    box.SetContainer(&frame);
+    std::vector<std::string> removed;
+    form->onControlRemoved.Connect([&](Control& control) { removed.push_back(control.Name()); });
+    form->Remove(frame);
+    EXPECT_EQ(box.Container(), nullptr);
+    EXPECT_EQ(removed, (std::vector<std::string>{"Frame1"}));
+    EXPECT_EQ(form->ControlCount(), 6);
+}
+
+TEST_F(FormTest, ControlCollectionAnswersCountAndItemLateBound) {
+    const Variant controls = GetProperty(Variant(ObjectRef(form)), "Controls");
+    EXPECT_EQ(ToInt32(GetProperty(controls, "Count")), 5);
+    EXPECT_EQ(ToString(GetProperty(CallMethod(controls, "Item", {Variant(int32_t{1})}), "Name")), "btnOK");
+    EXPECT_EQ(TypeName(CallMethod(controls, "Item", {Variant("chkCounterInUse")})), "CheckBox");
+    EXPECT_EQ(ErrorNumberOf([&] { CallMethod(controls, "Item", {Variant(int32_t{5})}); }), 9);
+}
+
+TEST_F(FormTest, FontCharsetReachesControlsWithAFontOnly) {
+    const Variant controls = form->ControlsObject();
+    for (int32_t i = 0; i < 5; ++i) {
+        const Variant control = CallMethod(controls, "Item", {Variant(i)});
+        try {
+            PutProperty(GetProperty(control, "Font"), "Charset", Variant(int32_t{238}));
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Number(), 438);
+            EXPECT_EQ(TypeName(control), "Timer");
+        }
+    }
+    EXPECT_EQ(form->Get<Label>("lblInfo").FontCharset(), 238);
+    EXPECT_EQ(form->Get<CheckBox>("chkCounterInUse").FontCharset(), 238);
+}
+
+TEST_F(FormTest, LateBoundFormReachesItsControlsAndProperties) {
+    const Variant target{ObjectRef(form)};
+    PutProperty(GetProperty(target, "btnCancel"), "Caption", Variant("Cancel"));
+    EXPECT_EQ(form->Get<CommandButton>("btnCancel").Caption(), "Cancel");
+    PutProperty(target, "Caption", Variant("Tagout"));
+    EXPECT_EQ(form->Caption(), "Tagout");
+    EXPECT_EQ(TypeName(target), "frmTest");
+    EXPECT_EQ(ErrorNumberOf([&] { GetProperty(target, "NoSuchMember"); }), 438);
+}
+
+TEST_F(FormTest, UnloadCanBeCancelledAndOtherwiseHidesTheForm) {
+    int loads = 0;
+    form->onLoad.Connect([&] { ++loads; });
+    form->Show();
+    form->Show();
+    EXPECT_EQ(loads, 1);
+    EXPECT_TRUE(form->Visible());
+    bool refuse = true;
+    form->onUnload.Connect([&](bool& cancel) { cancel = refuse; });
+    EXPECT_FALSE(form->Unload());
+    EXPECT_TRUE(form->Loaded());
+    refuse = false;
+    EXPECT_TRUE(form->Unload());
+    EXPECT_FALSE(form->Loaded());
+    EXPECT_FALSE(form->Visible());
+}
+
+TEST_F(FormTest, FocusMovesWithLostFocusBeforeGotFocus) {
+    std::vector<std::string> events;
+    auto& ok = form->Get<CommandButton>("btnOK");
+    auto& cancel = form->Get<CommandButton>("btnCancel");
+    ok.onLostFocus.Connect([&] { events.push_back("ok lost"); });
+    cancel.onGotFocus.Connect([&] { events.push_back("cancel got"); });
+    ok.SetFocus();
+    cancel.SetFocus();
+    cancel.SetFocus();
+    EXPECT_EQ(events, (std::vector<std::string>{"ok lost", "cancel got"}));
+    EXPECT_TRUE(cancel.HasFocus());
+    ok.SetEnabled(false);
+    EXPECT_EQ(ErrorNumberOf([&] { ok.SetFocus(); }), 5);
+}
+
+TEST_F(FormTest, SettersReportOnlyRealChanges) {
+    auto& label = form->Get<Label>("lblInfo");
+    std::vector<ControlProperty> changes;
+    label.onChanged.Connect([&](ControlProperty p) { changes.push_back(p); });
+    label.SetCaption("Info");
+    label.SetCaption("Info");
+    label.Move(10, 20, 300, 200);
+    label.SetLeft(10);
+    label.SetVisible(false);
+    EXPECT_EQ(changes, (std::vector<ControlProperty>{ControlProperty::Caption, ControlProperty::Geometry,
+                                                     ControlProperty::Visible}));
+    EXPECT_EQ(ErrorNumberOf([&] { label.SetWidth(-1); }), 380);
+}
+
+TEST(ComboBoxTest, SelectingAnEntrySetsTheTextAndRaisesClick) {
+    ComboBox combo("Cmb_Quality");
+    int clicks = 0;
+    int textChanges = 0;
+    combo.onClick.Connect([&] { ++clicks; });
+    combo.onChange.Connect([&] { ++textChanges; });
+    for (const char* item : {"Good", "Questionable", "Bad"}) combo.AddItem(item);
+    combo.SetListIndex(1);
+    combo.SetListIndex(1);
+    EXPECT_EQ(combo.Text(), "Questionable");
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(textChanges, 0);
+    EXPECT_EQ(ErrorNumberOf([&] { combo.SetListIndex(3); }), 380);
+    EXPECT_EQ(combo.List(7), "");
+}
+
+TEST(ComboBoxTest, InsertingBeforeTheSelectionKeepsTheSelectedEntry) {
+    ComboBox combo("cboAttr");
+    combo.AddItem("a");
+    combo.AddItem("b");
+    combo.SetListIndex(1);
+    combo.AddItem("first", 0);
+    EXPECT_EQ(combo.ListIndex(), 2);
+    combo.RemoveItem(2);
+    EXPECT_EQ(combo.ListIndex(), -1);
+}
+
+TEST(ComboBoxTest, DropDownListTextMustNameAnEntry) {
+    ComboBox combo("cboAttr");
+    combo.SetListStyle(ComboBox::Style::DropDownList);
+    combo.AddItem("Open");
+    combo.AddItem("Closed");
+    combo.SetText("Closed");
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(ErrorNumberOf([&] { combo.SetText("Ajar"); }), 383);
+    EXPECT_EQ(combo.Text(), "Closed");
+}
+
+TEST(TabStripTest, FirstTabIsSelectedSilentlyAndLaterSelectionsClick) {
+    TabStrip tabs("TabStrip1");
+    int clicks = 0;
+    tabs.onClick.Connect([&] { ++clicks; });
+    tabs.AddTab("General");
+    tabs.AddTab("Details", "D");
+    EXPECT_EQ(tabs.SelectedTab(), 1);
+    tabs.ClickTab(2);
+    tabs.SelectTab(2);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(ErrorNumberOf([&] { tabs.SelectTab(3); }), 35600);
+    EXPECT_EQ(ErrorNumberOf([&] { tabs.AddTab("x", "D"); }), 35602);
+}
+
+TEST(TimerTest, TickRaisesTimerOnlyWhileEnabledWithAnInterval) {
+    Timer timer("Timer1");
+    int ticks = 0;
+    timer.onTimer.Connect([&] { ++ticks; });
+    timer.Tick();
+    timer.SetInterval(1000);
+    timer.Tick();
+    timer.SetEnabled(false);
+    timer.Tick();
+    EXPECT_EQ(ticks, 1);
+    EXPECT_EQ(ErrorNumberOf([&] { timer.SetFontCharset(0); }), 438);
+}
+
+TEST(CommandButtonTest, DisabledButtonDoesNotClick) {
+    CommandButton button("btnAck");
+    int clicks = 0;
+    button.onClick.Connect([&] { ++clicks; });
+    button.Click();
+    button.SetEnabled(false);
+    button.Click();
+    EXPECT_EQ(clicks, 1);
+}
+
+}  // namespace
+}  // namespace trovane
