@@ -1,0 +1,94 @@
+#include "alarms_fixture.h"
+
+namespace trovane::testing {
+namespace {
+
+class AlarmsSelectionTest : public AlarmsPanelTest {
+  protected:
+    void SetUp() override {
+        AlarmsPanelTest::SetUp();
+        panel->CanSelectSingleBlocking = true;
+        SetThreeSignals();
+    }
+};
+
+TEST_F(AlarmsSelectionTest, ClickHandsTheSignalToTheBlockingPanel) {
+    panel->RefreshAlarms();
+    container->calls.clear();
+    panel->ListView1.ClickItem(2);
+
+    EXPECT_EQ(ArgumentsOf("SetBlockedSignal"), (std::vector<Variant>{Variant("ABC"), Variant(11)}));
+    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(true)}));
+    EXPECT_EQ(panel->RememberedSignal(), "ABC:11");
+    EXPECT_TRUE(panel->DisableUpdate);
+}
+
+TEST_F(AlarmsSelectionTest, NoRememberedSignalSwitchesSingleBlockingOff) {
+    panel->RefreshAlarms();
+    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
+    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
+}
+
+TEST_F(AlarmsSelectionTest, RefreshReselectsTheRememberedSignalWithoutFreezing) {
+    panel->RefreshAlarms();
+    panel->ListView1.ClickItem(3);
+    panel->DisableUpdate = false;
+    SetSignals({Signal("ABC", 9, "NORMAL"), Signal("ABC", 12, "BLOCKED")});
+    container->calls.clear();
+    panel->RefreshAlarms();
+
+    ASSERT_NE(panel->ListView1.SelectedItem(), nullptr);
+    EXPECT_EQ(panel->ListView1.SelectedItem()->Index(), 2);
+    EXPECT_EQ(ArgumentsOf("SetBlockedSignal"), (std::vector<Variant>{Variant("ABC"), Variant(12)}));
+    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(true)}));
+    EXPECT_FALSE(panel->DisableUpdate);
+}
+
+TEST_F(AlarmsSelectionTest, RememberedSignalGoneSwitchesSingleBlockingOff) {
+    panel->RefreshAlarms();
+    panel->ListView1.ClickItem(1);
+    panel->DisableUpdate = false;
+    SetSignals({Signal("ABC", 11, "NORMAL")});
+    container->calls.clear();
+    panel->RefreshAlarms();
+    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
+    EXPECT_EQ(panel->ListView1.SelectedItem(), nullptr);
+}
+
+TEST_F(AlarmsSelectionTest, WithoutSingleBlockingTheContainerHearsNothing) {
+    panel->CanSelectSingleBlocking = false;
+    panel->RefreshAlarms();
+    panel->ListView1.ClickItem(1);
+    EXPECT_TRUE(container->CallsOf("SetSingleBlocking").empty());
+    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
+    EXPECT_TRUE(panel->btnAckSelected.Enabled());
+}
+
+TEST_F(AlarmsSelectionTest, NavigationKeysRunTheSelectionStep) {
+    panel->RefreshAlarms();
+    panel->ListView1.ClickItem(2);
+    panel->DisableUpdate = false;
+    panel->ListView1.PressKey(38);  // up: to the unacknowledged alarm
+    EXPECT_TRUE(panel->DisableUpdate);
+    EXPECT_TRUE(panel->btnAckSelected.Enabled());
+    EXPECT_EQ(panel->RememberedSignal(), "ABC:10");
+
+    panel->DisableUpdate = false;
+    panel->ListView1.PressKey(65);  // a letter is not navigation
+    EXPECT_FALSE(panel->DisableUpdate);
+    panel->ListView1.PressKey(35);  // end
+    EXPECT_EQ(panel->RememberedSignal(), "ABC:12");
+    EXPECT_FALSE(panel->btnAckSelected.Enabled());
+}
+
+TEST_F(AlarmsSelectionTest, NonNumericIndexIsNotHandedOver) {
+    SetSignals({MakeVariantArray({"ABC", "X1", "text", "NORMAL", false}, 1)});
+    panel->RefreshAlarms();
+    container->calls.clear();
+    panel->ListView1.ClickItem(1);
+    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
+    EXPECT_EQ(panel->RememberedSignal(), "");
+}
+
+}  // namespace
+}  // namespace trovane::testing

@@ -1,0 +1,48 @@
+#include <gtest/gtest.h>
+
+#include "blocking/blocking_commands.h"
+#include "blocking/blocking_kinds.h"
+
+namespace trovane {
+namespace {
+
+TEST(BlockingCommands, ReadCarriesObjectEmptyVectorAndMode) {
+    EXPECT_EQ(GetBlockingStateCommand("ABC", 10, kApplyToSelected),
+              R"(#return do(BGU_BLOCK:C, "GET_BLOCKING_STATE", ("ABC",10), Vector(), "APPLY_TO_SELECTED"))");
+}
+
+TEST(BlockingCommands, WriteHasNoBlanksInsideGroups) {
+    EXPECT_EQ(SetBlockingStateCommand("ABC", 10, {1, 1, 1, 1, 1, 1}, kApplyToAll),
+              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (1,1,1,1,1,1), "APPLY_TO_ALL"))");
+    EXPECT_EQ(SetBlockingStateCommand("ABC", 10, {0, 1, 0, 2, 0, 0}, kApplyToAll),
+              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (0,1,0,2,0,0), "APPLY_TO_ALL"))");
+}
+
+TEST(BlockingCommands, QualificationHasNoApplyToArgument) {
+    EXPECT_EQ(GetEnabledBlockingsCommand("ABC", 10),
+              R"(#return do(BGU_BLOCK:C, "GET_ENABLED_BLOCKINGS", ("ABC",10)))");
+}
+
+TEST(BlockingCommands, NegativeIndexKeepsItsSign) {
+    EXPECT_EQ(ObjectReferenceText("ABC", -1), R"(("ABC",-1))");
+}
+
+TEST(BlockingCommands, OnlyACheckedEnabledOptionSelectsTheSignal) {
+    EXPECT_EQ(ApplyToMode(1, true), "APPLY_TO_SELECTED");
+    EXPECT_EQ(ApplyToMode(1, false), "APPLY_TO_ALL");
+    EXPECT_EQ(ApplyToMode(2, true), "APPLY_TO_ALL");
+    EXPECT_EQ(ApplyToMode(0, true), "APPLY_TO_ALL");
+}
+
+TEST(BlockingKinds, NamesKeepTheirDeliberateMismatches) {
+    EXPECT_EQ(kBlockingKinds[0].traceWord, "update");
+    EXPECT_EQ(kBlockingKinds[3].property, "History");
+    EXPECT_EQ(kBlockingKinds[3].serverKeyword, "EVENT");
+    EXPECT_EQ(kBlockingKinds[5].property, "Reprocessing");
+    EXPECT_EQ(kBlockingKinds[5].serverKeyword, "ACTION");
+    EXPECT_EQ(FindBlockingKindByProperty("control")->checkBox, "Check2");
+    EXPECT_EQ(FindBlockingKindByProperty("Event"), nullptr);
+}
+
+}  // namespace
+}  // namespace trovane

@@ -1,0 +1,205 @@
+#include <algorithm>
+
+#include "blocking_fixture.h"
+
+namespace trovane::testing {
+namespace {
+
+std::vector<std::string> Filtered(const std::vector<std::string>& lines, std::string_view prefix) {
+    std::vector<std::string> kept;
+    for (const std::string& line : lines)
+        if (line.starts_with(prefix)) kept.push_back(line);
+    return kept;
+}
+
+TEST_F(BlockingPanelTest, InitQualifiesThenReadsAndShowsTheServerState) {
+    blockingState = States(0, 1, 0, 2, 0, 1);
+    TraceCapture trace;
+    panel->Init();
+
+    EXPECT_EQ(Commands(),
+              (std::vector<std::string>{
+                  R"(#return do(BGU_BLOCK:C, "GET_ENABLED_BLOCKINGS", ("ABC",10)))",
+                  R"(#return do(BGU_BLOCK:C, "GET_BLOCKING_STATE", ("ABC",10), Vector(), "APPLY_TO_ALL"))"}));
+    EXPECT_EQ(panel->Control(), 1);
+    EXPECT_EQ(panel->History(), 2);
+    EXPECT_EQ(Check(6).Value(), 1);
+    EXPECT_FALSE(panel->isRefreshing);
+    EXPECT_TRUE(IsClean());
+    EXPECT_EQ(panel->btnOK.Caption(), "Apply");
+    EXPECT_EQ(Check(4).Caption(), "Event");
+    EXPECT_EQ(trace.Lines().front(), "-> Blocking.Init");
+    EXPECT_EQ(trace.Lines().back(), "<- Blocking.Init");
+}
+
+TEST_F(BlockingPanelTest, RefreshTracesEveryKindWithItsOwnWord) {
+    TraceCapture trace;
+    panel->RefreshStates();
+    const std::vector<std::string> expected{"-> Blocking.RefreshStates",
+                                            "   Blocking.RefreshStates: Getting blockings...",
+                                            "   Blocking.RefreshStates: Getting blockings done.",
+                                            "   Blocking.RefreshStates: Setting update...",
+                                            "   Blocking.RefreshStates: Setting update done.",
+                                            "   Blocking.RefreshStates: Setting Control...",
+                                            "   Blocking.RefreshStates: Setting Control done.",
+                                            "   Blocking.RefreshStates: Setting Alarm...",
+                                            "   Blocking.RefreshStates: Setting Alarm done.",
+                                            "   Blocking.RefreshStates: Setting History...",
+                                            "   Blocking.RefreshStates: Setting History done.",
+                                            "   Blocking.RefreshStates: Setting Printout...",
+                                            "   Blocking.RefreshStates: Setting Printout done.",
+                                            "   Blocking.RefreshStates: Setting Reprocessing...",
+                                            "   Blocking.RefreshStates: Setting Reprocessing done.",
+                                            "<- Blocking.RefreshStates"};
+    EXPECT_EQ(Filtered(trace.Lines(), "   Blocking.").size() + 2, expected.size());
+    std::vector<std::string> panelLines;
+    for (const std::string& line : trace.Lines())
+        if (line.find("Blocking.") != std::string::npos) panelLines.push_back(line);
+    EXPECT_EQ(panelLines, expected);
+}
+
+TEST_F(BlockingPanelTest, ServerDisabledKeywordDisablesOnlyThatKind) {
+    enabledBlockings = MakeVariantArray({Variant(Currency{0}), "ALARM", "DISABLED", "EVENT", "disabled"});
+    panel->Init();
+    for (int16_t position = 1; position <= 6; ++position)
+        EXPECT_EQ(Check(position).Enabled(), position != 3) << "Check" << position;
+    EXPECT_TRUE(panel->chkBlockSelectedSignal.Enabled());
+}
+
+TEST_F(BlockingPanelTest, UnreadableQualificationEnablesEverything) {
+    enabledBlockings = Variant("garbage");
+    panel->Init();
+    for (int16_t position = 1; position <= 6; ++position) EXPECT_TRUE(Check(position).Enabled());
+}
+
+TEST_F(BlockingPanelTest, MissingRightsDisableEveryKindAndTheOption) {
+    container->SetRight("IsBlockingHandlingAllowed", false);
+    panel->chkBlockSelectedSignal.SetValue(1);  // runs Init through the option's click
+    for (int16_t position = 1; position <= 6; ++position) EXPECT_FALSE(Check(position).Enabled());
+    EXPECT_FALSE(panel->chkBlockSelectedSignal.Enabled());
+    EXPECT_FALSE(panel->lblBlockSelectedSignal.Enabled());
+    panel->RefreshStates();
+    EXPECT_NE(LastCommand().find("\"APPLY_TO_ALL\")"), std::string::npos);
+}
+
+TEST_F(BlockingPanelTest, OperatorClickEntersEditedState) {
+    panel->Init();
+    Check(2).Click();
+    EXPECT_TRUE(panel->btnOK.Enabled());
+    EXPECT_TRUE(panel->btnCancel.Enabled());
+    EXPECT_FALSE(panel->btnRefresh.Enabled());
+    EXPECT_TRUE(panel->kindChanged[1]);
+    EXPECT_FALSE(panel->kindChanged[0]);
+}
+
+TEST_F(BlockingPanelTest, WithoutRightsAnEditEnablesCancelButNotOk) {
+    panel->Init();
+    container->SetRight("IsBlockingHandlingAllowed", false);
+    panel->SetControl(1);  // a value set while not refreshing counts as an edit
+    EXPECT_FALSE(panel->btnOK.Enabled());
+    EXPECT_TRUE(panel->btnCancel.Enabled());
+}
+
+TEST_F(BlockingPanelTest, OkWritesAllSixValuesAndReturnsToClean) {
+    panel->Init();
+    const size_t sentBefore = Commands().size();
+    Check(2).Click();
+    panel->btnOK.Click();
+
+    ASSERT_EQ(Commands().size(), sentBefore + 1);
+    EXPECT_EQ(LastCommand(),
+              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (0,1,0,0,0,0), "APPLY_TO_ALL"))");
+    EXPECT_TRUE(IsClean());
+    EXPECT_EQ(panel->Control(), 1);
+    EXPECT_TRUE(std::none_of(panel->kindChanged.begin(), panel->kindChanged.end(), [](bool b) { return b; }));
+}
+
+TEST_F(BlockingPanelTest, OkReleasesTheAlarmPanelThroughTheContainer) {
+    auto alarms = std::make_shared<DispatchObject>("Alarms");
+    Variant disableUpdate = true;
+    alarms->Property(
+        "DisableUpdate", [&] { return disableUpdate; }, [&](const Variant& v) { disableUpdate = v; });
+    container->Value("Alarms1", Variant(ObjectRef(alarms)));
+    panel->Init();
+    Check(1).Click();
+    panel->btnOK.Click();
+    EXPECT_EQ(disableUpdate, Variant(false));
+}
+
+TEST_F(BlockingPanelTest, OkWithoutAlarmPanelStillWrites) {
+    container->Value("Alarms1", Variant::Nothing());
+    panel->Init();
+    Check(1).Click();
+    panel->btnOK.Click();
+    EXPECT_NE(LastCommand().find("SET_BLOCKING_STATE"), std::string::npos);
+}
+
+TEST_F(BlockingPanelTest, CancelRestoresStoredValuesAndSendsNothing) {
+    blockingState = States(1, 0, 0, 0, 0, 0);
+    panel->Init();
+    const size_t sentBefore = Commands().size();
+    Check(1).Click();
+    Check(3).Click();
+    ASSERT_EQ(Check(1).Value(), 0);
+    panel->btnCancel.Click();
+
+    EXPECT_EQ(Check(1).Value(), 1);
+    EXPECT_EQ(Check(3).Value(), 0);
+    EXPECT_EQ(Commands().size(), sentBefore);
+    EXPECT_TRUE(IsClean());
+    EXPECT_FALSE(panel->isRefreshing);
+    EXPECT_TRUE(panel->kindChanged[0]);  // left as it was
+}
+
+TEST_F(BlockingPanelTest, ShortReadKeepsValuesAndLeavesRefreshingSet) {
+    blockingState = States(0, 1, 0, 0, 0, 0);
+    panel->Init();
+    blockingState = MakeVariantArray({1, 1, 1, 1, 1}, 1);
+    TraceCapture trace;
+    panel->RefreshStates();
+
+    EXPECT_EQ(trace.Lines().back(), "<- Blocking.RefreshStates ERROR OCCURRED!!!");
+    EXPECT_TRUE(panel->isRefreshing);
+    EXPECT_EQ(Check(2).Value(), 1);
+    EXPECT_EQ(Check(1).Value(), 0);
+    Check(1).Click();
+    EXPECT_TRUE(IsClean());  // clicks are not edits until a refresh succeeds
+}
+
+TEST_F(BlockingPanelTest, CancelClearsAFailedRefresh) {
+    panel->Init();
+    Check(1).Click();
+    blockingState = Variant();
+    panel->RefreshStates();
+    ASSERT_TRUE(panel->isRefreshing);
+    panel->btnCancel.Click();
+    EXPECT_FALSE(panel->isRefreshing);
+    Check(2).Click();
+    EXPECT_TRUE(panel->btnOK.Enabled());
+}
+
+TEST_F(BlockingPanelTest, EmptyOrMalformedReadIsAnErrorExit) {
+    for (Variant answer : {Variant(), Variant("x"), MakeVariantArray({0, 0, 0, 0, 0, "high"}, 1),
+                           MakeVariantArray({0, 0, 0, 0, 0, 7}, 1)}) {
+        blockingState = answer;
+        TraceCapture trace;
+        panel->RefreshStates();
+        EXPECT_EQ(trace.Lines().back(), "<- Blocking.RefreshStates ERROR OCCURRED!!!") << TypeName(answer);
+    }
+}
+
+TEST_F(BlockingPanelTest, MembersAnswerByName) {
+    const Variant self{ObjectRef(panel)};
+    PutProperty(self, "logicalName", "XYZ");
+    PutProperty(self, "baseIndex", -1);
+    PutProperty(self, "reprocessing", int16_t{1});
+    EXPECT_EQ(Check(6).Value(), 1);
+    EXPECT_EQ(GetProperty(self, "Reprocessing"), Variant(int16_t{1}));
+    CallMethod(self, "SetBlocking", {int16_t{1}, int16_t{0}, int16_t{0}, int16_t{0}, int16_t{0}, int16_t{1}});
+    EXPECT_EQ(LastCommand(),
+              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("XYZ",-1), (1,0,0,0,0,1), "APPLY_TO_ALL"))");
+    EXPECT_EQ(GetProperty(GetProperty(self, "btnOK"), "Tag"), Variant("119"));
+}
+
+}  // namespace
+}  // namespace trovane::testing
