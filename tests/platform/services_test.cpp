@@ -21,16 +21,6 @@ TEST(PrivateProfileTest, NamesIgnoreCaseAndBlanksQuotesAndCommentsAreDropped) {
     EXPECT_EQ(text.Section("control").size(), 2u);
 }
 
-TEST(PrivateProfileTest, ClassicCallCutsToTheBufferAndAnswersTheLength) {
-    MemoryFiles files;
-    files.Put("f.ini", "[S]\nK=abcdef\n");
-    std::string buffer;
-    EXPECT_EQ(GetPrivateProfileString(files, "S", "K", "", buffer, 4, "f.ini"), 3u);
-    EXPECT_EQ(buffer, "abc");
-    EXPECT_EQ(GetPrivateProfileString(files, "S", "none", "dflt", buffer, 255, "f.ini"), 4u);
-    EXPECT_EQ(GetPrivateProfileString(files, "S", "K", "", buffer, 255, "nofile.ini"), 0u);
-}
-
 class ColorSchemeTest : public ::testing::Test {
   protected:
     int32_t ColorOf(int16_t index) {
@@ -78,17 +68,6 @@ TEST(HeadlessWindowSystemTest, NearestMonitorIsTheOneContainingOrClosestToThePoi
     EXPECT_EQ(windows.NearestWorkArea({150, 50}).bottom, 80);
     EXPECT_EQ(windows.NearestWorkArea({99, 50}).bottom, 90);
     EXPECT_EQ(windows.NearestWorkArea({500, -40}).bottom, 80);
-}
-
-TEST(HeadlessWindowSystemTest, OnlyAReorderingTopmostRequestSetsTheTopmostStyle) {
-    HeadlessWindowSystem windows;
-    windows.SetWindowPos(7, -1, 0, 0, 0, 0, 39);
-    EXPECT_FALSE(windows.IsTopmost(7));
-    windows.SetWindowPos(7, -1, 0, 0, 0, 0, 3);
-    EXPECT_TRUE(windows.IsTopmost(7));
-    windows.SetWindowPos(0, -1, 0, 0, 0, 0, 3);
-    EXPECT_FALSE(windows.IsTopmost(0));
-    EXPECT_EQ(windows.PositionRequests().size(), 3u);
 }
 
 }  // namespace

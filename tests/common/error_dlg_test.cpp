@@ -1,0 +1,126 @@
+#include <gtest/gtest.h>
+
+#include "common/error_dlg.h"
+#include "common/mb_icon.h"
+#include "services_fixture.h"
+
+namespace trovane::testing {
+namespace {
+
+class ErrorDlgTest : public ServicesTest {
+  protected:
+    void SetUp() override { AnswerPath(MakeStringArray({"C:\\apl\\demo\\APL\\"})); }
+
+    ErrorDlg& ShowWithTimeout(const std::string& timeout) {
+        PutTimeout(timeout);
+        functions->SetStartInfo(StartInfo());
+        functions->ShowError("Command failed");
+        return *ExistingErrorDlg();
+    }
+
+    // Ticks until the dialog unloads; gives up after `limit` ticks.
+    int TicksUntilClosed(ErrorDlg& dialog, int limit, bool operatorActive = false) {
+        for (int tick = 1; tick <= limit; ++tick) {
+            clock->Advance(1000);
+            if (operatorActive) windows->RecordInput(clock->ticks - 10);
+            dialog.Timer1.Tick();
+            if (!dialog.Loaded()) return tick;
+        }
+        return -1;
+    }
+};
+
+TEST_F(ErrorDlgTest, LoadingSetsCaptionsTitleTextAndCountdown) {
+    ErrorDlg& dialog = ShowWithTimeout("90");
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_EQ(dialog.Caption(), "Trovane Error");
+    EXPECT_EQ(dialog.Command1.Caption(), "OK");
+    EXPECT_EQ(dialog.Label1.Caption(), "Command failed");
+    EXPECT_EQ(dialog.timeoutSeconds, 90);
+    EXPECT_EQ(dialog.remainingTicks, 89);
+    EXPECT_TRUE(dialog.Timer1.IsRunning());
+    EXPECT_EQ(dialog.Timer1.Interval(), 1000);
+}
+
+TEST_F(ErrorDlgTest, CaptionsComeFromTheCallersReplacementTexts) {
+    functions->SetStringReplacementList(
+        MakeVariantArray({Variant(), "x", "ID271", "Fehler", "ID270", "Schliessen"}));
+    ErrorDlg& dialog = ShowWithTimeout("90");
+    EXPECT_EQ(dialog.Caption(), "Fehler");
+    EXPECT_EQ(dialog.Command1.Caption(), "Schliessen");
+}
+
+TEST_F(ErrorDlgTest, ClosesOnTheNinetiethTickWithoutInput) {
+    EXPECT_EQ(TicksUntilClosed(ShowWithTimeout("90"), 200), 90);
+}
+
+TEST_F(ErrorDlgTest, TimeoutOfOneZeroOrLessClosesOnTheFirstTick) {
+    for (const char* timeout : {"1", "0", "-5", "-2147483648"}) {
+        EXPECT_EQ(TicksUntilClosed(ShowWithTimeout(timeout), 5), 1) << timeout;
+    }
+}
+
+TEST_F(ErrorDlgTest, InputEverySecondKeepsItOpenAndIdlenessThenClosesIt) {
+    ErrorDlg& dialog = ShowWithTimeout("5");
+    EXPECT_EQ(TicksUntilClosed(dialog, 500, true), -1);
+    EXPECT_EQ(TicksUntilClosed(dialog, 10), 5);
+}
+
+TEST_F(ErrorDlgTest, ActivityOverflowCountsAsIdle) {
+    ErrorDlg& dialog = ShowWithTimeout("3");
+    clock->ticks = 0x80000000u;
+    windows->RecordInput(0x7FFFFFF0u);
+    EXPECT_EQ(TicksUntilClosed(dialog, 10), 3);
+}
+
+TEST_F(ErrorDlgTest, OkUnloadsAndTheNextErrorLoadsTheSameDialogAgain) {
+    ErrorDlg& dialog = ShowWithTimeout("90");
+    dialog.Command1.Click();
+    EXPECT_FALSE(dialog.Loaded());
+    functions->ShowError("Second");
+    EXPECT_EQ(ExistingErrorDlg(), &dialog);
+    EXPECT_EQ(dialog.Label1.Caption(), "Second");
+    EXPECT_EQ(dialog.remainingTicks, 89);
+}
+
+TEST_F(ErrorDlgTest, ShowErrorIssuesTheTopmostRequestForNoWindow) {
+    functions->ShowError("x");
+    ASSERT_EQ(windows->PositionRequests().size(), 1u);
+    EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
+    EXPECT_EQ(windows->PositionRequests()[0].flags, 3u);
+}
+
+TEST_F(ErrorDlgTest, ShowError2OwnsTheDialogByTheParent) {
+    SharedErrorDlg(platform).SetHwnd(0x300);
+    windows->SetWindowLong(0x100, -20, 8);
+    functions->ShowError2("x", 0x100);
+    EXPECT_EQ(windows->OwnerOf(0x300), 0x100);
+    EXPECT_TRUE(windows->IsTopmost(0x300));
+    EXPECT_TRUE(ExistingErrorDlg()->Visible());
+}
+
+TEST_F(ErrorDlgTest, MakeCleanupUnloadsAndReleasesTheSharedDialog) {
+    functions->ShowError("x");
+    functions->MakeCleanup();
+    EXPECT_EQ(ExistingErrorDlg(), nullptr);
+}
+
+TEST(MBIconTest, DefaultsToTheInformationIconAndSavesOnlyChanges) {
+    MBIcon icon("MBIcon1");
+    EXPECT_EQ(icon.Paint().iconType, 32516);
+    MBIcon::PropertyBag bag;
+    icon.WriteProperties(bag);
+    EXPECT_TRUE(bag.empty());
+
+    icon.SetIconType(MBIcon::kWarning);
+    icon.WriteProperties(bag);
+    EXPECT_EQ(bag.at("IconType"), Variant(32515));
+    MBIcon restored("MBIcon2");
+    restored.ReadProperties(bag);
+    EXPECT_EQ(restored.IconType(), 32515);
+    restored.ReadProperties({{"IconType", "damaged"}});
+    EXPECT_EQ(restored.IconType(), 32516);
+}
+
+}  // namespace
+}  // namespace trovane::testing
