@@ -14,8 +14,8 @@
 namespace trovane::sim {
 
 inline constexpr int kMaxNesting = 200;
-inline constexpr size_t kMaxValueWeight = size_t{1} << 20;
-inline constexpr size_t kMaxTextLength = size_t{1} << 20;
+inline constexpr size_t kMaxValueWeight = size_t{1} << 17;
+inline constexpr size_t kMaxTextLength = size_t{1} << 17;
 
 // Throws VexlStatus (value too large) when the value weighs more than kMaxValueWeight.
 void CheckValueWeight(const Variant& value);

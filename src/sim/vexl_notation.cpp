@@ -17,9 +17,16 @@ std::string RealText(double value) {
     return text;
 }
 
+// Control characters cannot stand inside a literal (a line feed would end the line), so they are
+// written the way commands build them: "a"+ascii(10)+"b".
 std::string QuotedText(const std::string& text) {
     std::string out = "\"";
     for (char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code < 32 || code == 127) {
+            out += "\"+ascii(" + std::to_string(code) + ")+\"";
+            continue;
+        }
         out += c;
         if (c == '"') out += '"';
     }
