@@ -1,6 +1,7 @@
 #include "core/conversions.h"
 
 #include <cfenv>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -13,7 +14,9 @@ namespace trovane {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
 std::string_view TrimBlanks(std::string_view text) {
     while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
@@ -21,7 +24,9 @@ std::string_view TrimBlanks(std::string_view text) {
     return text;
 }
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 // Reads "&H1F" / "&O17" integers; returns false when the text is not of that form.
 bool ParseRadixInteger(std::string_view text, double& out) {
@@ -32,15 +37,19 @@ bool ParseRadixInteger(std::string_view text, double& out) {
     uint64_t value = 0;
     for (char c : text.substr(2)) {
         int digit = -1;
-        if (IsDigit(c)) digit = c - '0';
-        else if (radix == 16 && (c | 0x20) >= 'a' && (c | 0x20) <= 'f') digit = (c | 0x20) - 'a' + 10;
+        if (IsDigit(c))
+            digit = c - '0';
+        else if (radix == 16 && (c | 0x20) >= 'a' && (c | 0x20) <= 'f')
+            digit = (c | 0x20) - 'a' + 10;
         if (digit < 0 || digit >= radix) return false;
         value = value * static_cast<uint64_t>(radix) + static_cast<uint64_t>(digit);
         if (value > 0xFFFFFFFFull) return false;
     }
     // Hex and octal literals are two's-complement 16- or 32-bit values, as the classic runtime reads them.
-    if (value <= 0xFFFF && text.size() <= 6) out = static_cast<int16_t>(static_cast<uint16_t>(value));
-    else out = static_cast<int32_t>(static_cast<uint32_t>(value));
+    if (value <= 0xFFFF && text.size() <= 6)
+        out = static_cast<int16_t>(static_cast<uint16_t>(value));
+    else
+        out = static_cast<int32_t>(static_cast<uint32_t>(value));
     return true;
 }
 
@@ -63,11 +72,13 @@ bool ParseDecimal(std::string_view text, double& out) {
         if (exponentDigits == 0) return false;
     }
     if (i != text.size()) return false;
-    std::string copy(text);
+    // from_chars reads "." whatever the process locale is (a GUI toolkit may have switched
+    // LC_NUMERIC to the user's, where strtod would stop at the point); it takes no leading "+".
+    std::string copy(text.front() == '+' ? text.substr(1) : text);
     for (char& c : copy)
         if (c == 'd' || c == 'D') c = 'E';
-    out = std::strtod(copy.c_str(), nullptr);
-    return std::isfinite(out);
+    const auto [end, error] = std::from_chars(copy.data(), copy.data() + copy.size(), out);
+    return error == std::errc() && end == copy.data() + copy.size() && std::isfinite(out);
 }
 
 bool TryParseNumber(std::string_view text, double& out) {
@@ -76,20 +87,31 @@ bool TryParseNumber(std::string_view text, double& out) {
     return ParseRadixInteger(text, out) || ParseDecimal(text, out);
 }
 
-bool EqualsWord(std::string_view text, std::string_view word) { return EqualsIgnoringCase(TrimBlanks(text), word); }
+bool EqualsWord(std::string_view text, std::string_view word) {
+    return EqualsIgnoringCase(TrimBlanks(text), word);
+}
 
 // Any variant as a double, for the numeric conversions. Strings are parsed, Booleans are -1 / 0.
 double NumericValue(const Variant& value) {
     switch (value.Kind()) {
-        case VarKind::Empty: return 0;
-        case VarKind::Null: throw Error(ErrorNumber::InvalidUseOfNull);
-        case VarKind::Integer: return value.AsInteger();
-        case VarKind::Long: return value.AsLong();
-        case VarKind::Single: return value.AsSingle();
-        case VarKind::Double: return value.AsDouble();
-        case VarKind::Currency: return static_cast<double>(value.AsCurrency().scaled) / 10000.0;
-        case VarKind::Date: return value.AsDate().serial;
-        case VarKind::Boolean: return value.AsBoolean() ? -1 : 0;
+        case VarKind::Empty:
+            return 0;
+        case VarKind::Null:
+            throw Error(ErrorNumber::InvalidUseOfNull);
+        case VarKind::Integer:
+            return value.AsInteger();
+        case VarKind::Long:
+            return value.AsLong();
+        case VarKind::Single:
+            return value.AsSingle();
+        case VarKind::Double:
+            return value.AsDouble();
+        case VarKind::Currency:
+            return static_cast<double>(value.AsCurrency().scaled) / 10000.0;
+        case VarKind::Date:
+            return value.AsDate().serial;
+        case VarKind::Boolean:
+            return value.AsBoolean() ? -1 : 0;
         case VarKind::String: {
             const std::string& text = value.AsString();
             if (EqualsWord(text, "True")) return -1;
@@ -97,7 +119,8 @@ double NumericValue(const Variant& value) {
             return ParseNumber(text);
         }
         case VarKind::Object:
-        case VarKind::Array: break;
+        case VarKind::Array:
+            break;
     }
     throw Error(ErrorNumber::TypeMismatch);
 }
@@ -117,7 +140,9 @@ T RoundChecked(double value) {
     return static_cast<T>(rounded);
 }
 
-bool IsLeapYear(int year) { return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0; }
+bool IsLeapYear(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
 
 // Days from 1899-12-30 to the given civil date (proleptic Gregorian calendar).
 int64_t DaysFromEpoch(int year, int month, int day) {
@@ -164,14 +189,21 @@ bool IsNumeric(const Variant& value) {
         case VarKind::Single:
         case VarKind::Double:
         case VarKind::Currency:
-        case VarKind::Boolean: return true;
-        case VarKind::String: return IsNumeric(std::string_view(value.AsString()));
-        default: return false;
+        case VarKind::Boolean:
+            return true;
+        case VarKind::String:
+            return IsNumeric(std::string_view(value.AsString()));
+        default:
+            return false;
     }
 }
 
-int16_t RoundToInt16(double value) { return RoundChecked<int16_t>(value); }
-int32_t RoundToInt32(double value) { return RoundChecked<int32_t>(value); }
+int16_t RoundToInt16(double value) {
+    return RoundChecked<int16_t>(value);
+}
+int32_t RoundToInt32(double value) {
+    return RoundChecked<int32_t>(value);
+}
 
 int16_t ToInt16(const Variant& value) {
     if (value.Kind() == VarKind::Integer) return value.AsInteger();
@@ -190,7 +222,9 @@ float ToSingle(const Variant& value) {
     return static_cast<float>(number);
 }
 
-double ToDouble(const Variant& value) { return NumericValue(value); }
+double ToDouble(const Variant& value) {
+    return NumericValue(value);
+}
 
 Currency ToCurrency(const Variant& value) {
     if (value.Kind() == VarKind::Currency) return value.AsCurrency();
@@ -201,14 +235,16 @@ Currency ToCurrency(const Variant& value) {
 
 bool ToBool(const Variant& value) {
     switch (value.Kind()) {
-        case VarKind::Boolean: return value.AsBoolean();
+        case VarKind::Boolean:
+            return value.AsBoolean();
         case VarKind::String: {
             const std::string& text = value.AsString();
             if (EqualsWord(text, "True")) return true;
             if (EqualsWord(text, "False")) return false;
             return ParseNumber(text) != 0;
         }
-        default: return NumericValue(value) != 0;
+        default:
+            return NumericValue(value) != 0;
     }
 }
 
@@ -220,12 +256,13 @@ Date ToDate(const Variant& value) {
 
 std::string NumberText(double value) {
     if (value == 0) return "0";
+    // to_chars, unlike printf, ignores the process locale: the separator is always ".".
     char buffer[40];
-    std::snprintf(buffer, sizeof buffer, "%.15G", value);
-    std::string text = buffer;
+    const auto written = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
+    std::string text(buffer, written.ptr);
     // Split off an exponent, trim trailing zeros of the mantissa, and write the exponent as E+nn.
     std::string exponent;
-    if (const auto e = text.find('E'); e != std::string::npos) {
+    if (const auto e = text.find('e'); e != std::string::npos) {
         exponent = text.substr(e);
         text.resize(e);
     }
@@ -257,23 +294,37 @@ std::string CurrencyText(Currency value) {
 
 std::string ToString(const Variant& value) {
     switch (value.Kind()) {
-        case VarKind::Empty: return "";
-        case VarKind::Null: throw Error(ErrorNumber::InvalidUseOfNull);
-        case VarKind::Integer: return std::to_string(value.AsInteger());
-        case VarKind::Long: return std::to_string(value.AsLong());
+        case VarKind::Empty:
+            return "";
+        case VarKind::Null:
+            throw Error(ErrorNumber::InvalidUseOfNull);
+        case VarKind::Integer:
+            return std::to_string(value.AsInteger());
+        case VarKind::Long:
+            return std::to_string(value.AsLong());
         case VarKind::Single: {
             // Singles show the digits a single holds (7), not the noise of its double widening.
             char buffer[32];
-            std::snprintf(buffer, sizeof buffer, "%.7G", static_cast<double>(value.AsSingle()));
-            return NumberText(std::strtod(buffer, nullptr));
+            const auto written =
+                std::to_chars(buffer, buffer + sizeof buffer, static_cast<double>(value.AsSingle()),
+                              std::chars_format::general, 7);
+            double shown = 0;
+            std::from_chars(buffer, written.ptr, shown);
+            return NumberText(shown);
         }
-        case VarKind::Double: return NumberText(value.AsDouble());
-        case VarKind::Currency: return CurrencyText(value.AsCurrency());
-        case VarKind::Date: return DateText(value.AsDate());
-        case VarKind::String: return value.AsString();
-        case VarKind::Boolean: return value.AsBoolean() ? "True" : "False";
+        case VarKind::Double:
+            return NumberText(value.AsDouble());
+        case VarKind::Currency:
+            return CurrencyText(value.AsCurrency());
+        case VarKind::Date:
+            return DateText(value.AsDate());
+        case VarKind::String:
+            return value.AsString();
+        case VarKind::Boolean:
+            return value.AsBoolean() ? "True" : "False";
         case VarKind::Object:
-        case VarKind::Array: break;
+        case VarKind::Array:
+            break;
     }
     throw Error(ErrorNumber::TypeMismatch);
 }
