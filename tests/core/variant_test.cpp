@@ -1,40 +1,114 @@
+#include "core/variant.h"
+
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "core/error.h"
-#include "core/variant.h"
+#include "core/object.h"
 
 namespace trovane {
 namespace {
+
+int ErrorOf(auto&& call) {
+    try {
+        call();
+    } catch (const Error& e) {
+        return e.Number();
+    }
+    return 0;
+}
+
+class Thing final : public Object {
+  public:
+    std::string ClassName() const override { return "cStrColl"; }
+};
 
 TEST(Variant, TypeNamesAreTheOnesTheRulesCompare) {
     EXPECT_EQ(TypeName(Variant()), "Empty");
     EXPECT_EQ(TypeName(Variant::Null()), "Null");
     EXPECT_EQ(TypeName(Variant(int16_t{1})), "Integer");
     EXPECT_EQ(TypeName(Variant(1)), "Long");
+    EXPECT_EQ(TypeName(Variant(1.5f)), "Single");
     EXPECT_EQ(TypeName(Variant(1.5)), "Double");
+    EXPECT_EQ(TypeName(Variant(Currency{})), "Currency");
+    EXPECT_EQ(TypeName(Variant(Date{})), "Date");
     EXPECT_EQ(TypeName(Variant("x")), "String");
     EXPECT_EQ(TypeName(Variant(true)), "Boolean");
     EXPECT_EQ(TypeName(Variant::Nothing()), "Nothing");
+    EXPECT_EQ(TypeName(Variant(ObjectRef(std::make_shared<Thing>()))), "cStrColl");
     EXPECT_EQ(TypeName(MakeVariantArray({})), "Variant()");
     EXPECT_EQ(TypeName(MakeStringArray({"a"}, 1)), "String()");
     EXPECT_EQ(TypeName(MakeLongArray({1}, 1)), "Long()");
+    EXPECT_EQ(TypeName(Variant(VariantArray(ElementKind::Integer, 0, 2))), "Integer()");
 }
 
-TEST(Variant, CopyingCopiesTheArray) {
-    Variant a = MakeVariantArray({1, 2});
+TEST(Variant, EqualityNeedsTheSameKind) {
+    EXPECT_NE(Variant(int16_t{1}), Variant(int32_t{1}));
+    EXPECT_NE(Variant(), Variant(""));
+    EXPECT_EQ(MakeVariantArray({1, "a"}), MakeVariantArray({1, "a"}));
+    EXPECT_NE(MakeVariantArray({1}), MakeVariantArray({1}, 1));
+}
+
+TEST(Variant, CopyingCopiesArraysDeeplyButSharesObjects) {
+    Variant inner = MakeVariantArray({1, 2});
+    Variant a = MakeVariantArray({inner, Variant(ObjectRef(std::make_shared<Thing>()))});
     Variant b = a;
     b.AsArray().Set(0, "changed");
-    EXPECT_EQ(a.AsArray().At(0), Variant(1));
+    EXPECT_EQ(a.AsArray().At(0), inner);
+    EXPECT_EQ(a.AsArray().At(1).AsObject(), b.AsArray().At(1).AsObject());
 }
 
-TEST(VariantArray, OutOfBoundsIsSubscriptError) {
-    const Variant a = MakeLongArray({7}, 1);
-    try {
-        (void)a.AsArray().At(0);
-        FAIL();
-    } catch (const Error& e) {
-        EXPECT_EQ(e.Number(), 9);
-    }
+TEST(Variant, RawAccessToTheWrongKindIsATypeMismatch) {
+    EXPECT_EQ(ErrorOf([] { (void)Variant("1").AsLong(); }), 13);
+    EXPECT_EQ(ErrorOf([] { (void)Variant(1).AsArray(); }), 13);
+}
+
+TEST(VariantArray, BoundsKeepTheLowerBound) {
+    const Variant a = MakeStringArray({"x", "y"}, 1);
+    EXPECT_EQ(a.AsArray().LowerBound(), 1);
+    EXPECT_EQ(a.AsArray().UpperBound(), 2);
+    EXPECT_EQ(a.AsArray().At(1), Variant("x"));
+    EXPECT_EQ(ErrorOf([&] { (void)a.AsArray().At(0); }), 9);
+    EXPECT_EQ(ErrorOf([&] { (void)a.AsArray().At(3); }), 9);
+    const VariantArray empty(ElementKind::Variant, 0, size_t{0});
+    EXPECT_EQ(empty.UpperBound(), -1);
+    EXPECT_EQ(ErrorOf([&] { (void)empty.At(0); }), 9);
+}
+
+TEST(VariantArray, ElementsAreCoercedToTheElementKind) {
+    Variant longs = MakeLongArray({0, 0});
+    longs.AsArray().Set(0, "12");
+    longs.AsArray().Set(1, 2.5);
+    EXPECT_EQ(longs.AsArray().At(0), Variant(int32_t{12}));
+    EXPECT_EQ(longs.AsArray().At(1), Variant(int32_t{2}));
+    EXPECT_EQ(ErrorOf([&] { longs.AsArray().Set(0, "x"); }), 13);
+    EXPECT_EQ(longs.AsArray().At(0), Variant(int32_t{12}));  // unchanged by the failed store
+
+    Variant integers(VariantArray(ElementKind::Integer, 0, 1));
+    EXPECT_EQ(ErrorOf([&] { integers.AsArray().Set(0, 40000); }), 6);
+
+    Variant strings = MakeStringArray({""});
+    strings.AsArray().Set(0, 5);
+    EXPECT_EQ(strings.AsArray().At(0), Variant("5"));
+
+    Variant variants = MakeVariantArray({Variant()});
+    variants.AsArray().Set(0, int16_t{5});
+    EXPECT_EQ(TypeName(variants.AsArray().At(0)), "Integer");
+}
+
+TEST(VariantArray, ResizeKeepsContentsAndFillsWithTheKindsDefault) {
+    Variant strings = MakeStringArray({"a"}, 1);
+    strings.AsArray().ResizePreserve(3);
+    EXPECT_EQ(strings.AsArray().At(1), Variant("a"));
+    EXPECT_EQ(strings.AsArray().At(3), Variant(""));
+    strings.AsArray().ResizePreserve(0);  // erased: upper bound below the lower bound
+    EXPECT_EQ(strings.AsArray().Size(), 0u);
+    EXPECT_EQ(ErrorOf([&] { strings.AsArray().ResizePreserve(-1); }), 9);
+    Variant variants = MakeVariantArray({});
+    variants.AsArray().Append("x");
+    EXPECT_EQ(variants.AsArray().UpperBound(), 0);
+    EXPECT_TRUE(MakeVariantArray({1}).AsArray().At(0) == Variant(1));
 }
 
 }  // namespace
