@@ -24,7 +24,8 @@ AttributeType WriteType(const ProcessObject& object, const std::string& attribut
 }
 
 void CheckRange(const AttributeDefinition* definition, const Variant& value) {
-    if (!definition || definition->type != AttributeType::Integer) return;
+    // OV is listed as an integer but holds a real on analog objects.
+    if (!definition || value.Kind() != VarKind::Long) return;
     const int32_t number = value.AsLong();
     if ((definition->minimum && number < *definition->minimum) ||
         (definition->maximum && number > *definition->maximum))
