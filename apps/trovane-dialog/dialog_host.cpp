@@ -1,0 +1,99 @@
+#include "dialog_host.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "core/conversions.h"
+#include "sim/scenario.h"
+
+namespace trovane::dialog {
+
+namespace {
+std::unique_ptr<sim::ProcessDatabase> LoadDatabase(const DialogOptions& options) {
+    if (!options.scenarioFile) return sim::MakeDemoDatabase();
+    std::ifstream file(*options.scenarioFile, std::ios::binary);
+    if (!file) throw std::runtime_error("cannot read the scenario " + *options.scenarioFile);
+    std::ostringstream text;
+    text << file.rdbuf();
+    auto database = std::make_unique<sim::ProcessDatabase>();
+    sim::LoadScenario(text.str(), *database);
+    return database;
+}
+}  // namespace
+
+DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platformIn)
+    : options(optionsIn), platform(std::move(platformIn)) {
+    auto database = LoadDatabase(options);
+    if (!options.installationRoot.empty()) database->App().systemRoot = options.installationRoot;
+    auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
+    application = server->Database().App().number;
+    connection = std::make_shared<sim::SimulatedConnection>(server);
+    functions = std::make_unique<CommonFunctions>(platform);
+    container =
+        std::make_shared<HostContainer>(*functions, Variant(ObjectRef(connection)), application,
+                                        ObjectIdentity{options.objectName, options.index}, options.rights);
+}
+
+DialogHost::~DialogHost() {
+    Stop();
+}
+
+void DialogHost::Start(int32_t frameHandle) {
+    if (started) return;
+    started = true;
+    functions->SetStartInfo(StartInformation(frameHandle));
+    SitePanels();
+}
+
+// The panels the dialog shows, in siting order: the alarm list first, because its selection
+// drives the blocking panel. One more panel is one more line.
+void DialogHost::SitePanels() {
+    const SiteContext context{*container, Variant(ObjectRef(container)), platform,
+                              Variant(ObjectRef(connection)), application};
+    panels.push_back(SiteAlarmPanel(context));
+    panels.push_back(SiteBlockingPanel(context));
+}
+
+void DialogHost::Stop() {
+    if (!started) return;
+    started = false;
+    for (auto panel = panels.rbegin(); panel != panels.rend(); ++panel)
+        if (panel->stop) panel->stop();
+    container->UnsiteAll();
+}
+
+int32_t DialogHost::Pump() {
+    return connection->Pump();
+}
+
+Variant DialogHost::StartInformation(int32_t frameHandle) {
+    Variant info = functions->EmptyList();
+    functions->AddListAttribute(info, "APP_NR", Variant(application));
+    functions->AddListAttribute(info, "LANGUAGE", Variant(options.language));
+    functions->AddListAttribute(info, "USER_NAME", Variant(options.userName));
+    functions->AddListAttribute(info, "USED_OPC_SERVER", Variant(ObjectRef(connection)));
+    functions->AddListAttribute(info, "SET_OWNER", Variant(true));
+    functions->AddListAttribute(info, "FRAME_HANDLE", Variant(frameHandle));
+    return info;
+}
+
+// The object's own text, as the server holds it ("Circuit breaker Q0"), after its name and index.
+std::string DialogHost::ObjectCaption() const {
+    std::string caption = options.objectName + " " + std::to_string(options.index);
+    if (const sim::ProcessObject* object =
+            connection->Server().Database().FindObject(options.objectName, options.index)) {
+        const auto text = object->attributes.find("TX");
+        if (text != object->attributes.end()) caption += " - " + ToString(text->second);
+    }
+    return caption;
+}
+
+std::string LocalServerRoot(const std::string& executablePath) {
+    std::error_code ignored;
+    const auto root = std::filesystem::path(executablePath).parent_path() / "server-root";
+    return std::filesystem::is_directory(root, ignored) ? root.string() : std::string();
+}
+
+}  // namespace trovane::dialog

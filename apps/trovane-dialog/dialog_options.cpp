@@ -1,0 +1,77 @@
+#include "dialog_options.h"
+
+#include <charconv>
+#include <string_view>
+
+namespace trovane::dialog {
+
+namespace {
+std::optional<int32_t> ParseIndex(std::string_view text) {
+    int32_t value = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (failure != std::errc() || end != text.data() + text.size()) return std::nullopt;
+    return value;
+}
+
+// Applies one option that takes a value; returns the error text, empty on success.
+std::string ApplyValue(DialogOptions& options, std::string_view name, const std::string& value) {
+    if (name == "--object") {
+        if (value.empty()) return "--object needs a logical name";
+        options.objectName = value;
+    } else if (name == "--index") {
+        const auto index = ParseIndex(value);
+        if (!index) return "--index needs a whole number, not \"" + value + "\"";
+        options.index = *index;
+    } else if (name == "--scenario") {
+        options.scenarioFile = value;
+    } else if (name == "--user") {
+        options.userName = value;
+    } else if (name == "--language") {
+        options.language = value;
+    } else if (name == "--rights") {
+        const auto rights = ParseUserRights(value);
+        if (!rights) return "--rights takes all, none or a list of: " + std::string(kRightNames);
+        options.rights = *rights;
+    } else if (name == "--screenshot") {
+        if (value.empty()) return "--screenshot needs a file name";
+        options.screenshotFile = value;
+    } else {
+        return "unknown option " + std::string(name);
+    }
+    return {};
+}
+}  // namespace
+
+ParsedOptions ParseDialogOptions(std::span<const char* const> arguments) {
+    ParsedOptions parsed;
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        const std::string_view argument = arguments[i];
+        if (argument == "--trace") {
+            parsed.options.trace = true;
+        } else if (argument == "--help" || argument == "-h") {
+            parsed.options.help = true;
+        } else if (argument.starts_with("--") && argument.find('=') != std::string_view::npos) {
+            const size_t equals = argument.find('=');
+            parsed.error = ApplyValue(parsed.options, argument.substr(0, equals),
+                                      std::string(argument.substr(equals + 1)));
+        } else if (i + 1 < arguments.size()) {
+            parsed.error = ApplyValue(parsed.options, argument, arguments[++i]);
+        } else {
+            parsed.error = argument.starts_with("--") ? std::string(argument) + " needs a value"
+                                                      : "unexpected argument " + std::string(argument);
+        }
+        if (!parsed.error.empty()) break;
+    }
+    return parsed;
+}
+
+std::string DialogUsage() {
+    return "Usage: trovane-dialog [--object NAME] [--index N] [--scenario FILE] [--user NAME]\n"
+           "                      [--language CODE] [--rights all|none|LIST] [--trace]\n"
+           "                      [--screenshot FILE.png]\n"
+           "The control dialog of one process object (default ABC 10) on the simulated server.\n"
+           "Rights LIST: comma-separated, of " +
+           std::string(kRightNames) + ".\n";
+}
+
+}  // namespace trovane::dialog

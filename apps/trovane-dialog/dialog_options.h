@@ -1,0 +1,45 @@
+#pragma once
+// The command line of trovane-dialog.
+//
+//   --object NAME --index N   the process object the dialog controls (ABC 10)
+//   --scenario FILE           the simulated server's scenario (the built-in demo when absent)
+//   --user NAME               the operator's user name
+//   --language CODE           the text language
+//   --rights LIST             which rights the operator has (user_rights.h; all by default)
+//   --trace                   the library's trace to standard error
+//   --screenshot FILE.png     render the dialog off-screen, write the picture and exit
+//   --help
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "user_rights.h"
+
+namespace trovane::dialog {
+
+struct DialogOptions {
+    std::string objectName = "ABC";
+    int32_t index = 10;
+    std::optional<std::string> scenarioFile;
+    std::string userName = "operator";
+    std::string language = "EN";
+    UserRights rights;
+    bool trace = false;
+    std::optional<std::string> screenshotFile;
+    bool help = false;
+    // Not from the command line: where the in-process server is installed (its icon directories);
+    // empty keeps the scenario's own root.
+    std::string installationRoot;
+};
+
+struct ParsedOptions {
+    DialogOptions options;
+    std::string error;  // empty when the command line was understood
+};
+
+ParsedOptions ParseDialogOptions(std::span<const char* const> arguments);
+std::string DialogUsage();
+
+}  // namespace trovane::dialog

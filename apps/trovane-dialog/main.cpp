@@ -1,0 +1,74 @@
+// trovane-dialog: the control dialog of one process object on the in-process simulated server.
+
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <vector>
+
+#include <QApplication>
+
+#include "dialog_host.h"
+#include "dialog_options.h"
+#include "dialog_window.h"
+#include "platform/trace.h"
+#include "qt/qt_platform.h"
+#include "screenshot.h"
+
+namespace {
+
+// Without a display the dialog can still run and render: Qt's off-screen platform needs neither an
+// X server nor a compositor. A screenshot is always rendered off-screen.
+void ChooseOffscreenWhenThereIsNoDisplay(bool screenshot) {
+    if (std::getenv("QT_QPA_PLATFORM") && !screenshot) return;
+    const bool hasDisplay = std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY");
+    if (screenshot || !hasDisplay) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
+    using namespace trovane;
+    QApplication application(argc, argv);
+    QApplication::setApplicationName("trovane-dialog");
+    qt::QtPlatform platform = qt::MakeQtPlatform();
+    options.installationRoot = dialog::LocalServerRoot(QCoreApplication::applicationFilePath().toStdString());
+
+    dialog::DialogHost host(options, platform.services);
+    dialog::DialogWindow window(host, platform);
+    window.Start();
+    window.show();
+    window.Settle();
+
+    if (!options.screenshotFile) return QApplication::exec();
+    if (!dialog::WriteScreenshot(window, *options.screenshotFile)) {
+        std::cerr << "trovane-dialog: cannot write " << *options.screenshotFile << '\n';
+        return 1;
+    }
+    window.close();
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    using namespace trovane;
+    const std::vector<const char*> arguments(argv + 1, argv + argc);
+    const dialog::ParsedOptions parsed = dialog::ParseDialogOptions(arguments);
+    if (!parsed.error.empty()) {
+        std::cerr << "trovane-dialog: " << parsed.error << "\n" << dialog::DialogUsage();
+        return 2;
+    }
+    if (parsed.options.help) {
+        std::cout << dialog::DialogUsage();
+        return 0;
+    }
+    if (parsed.options.trace)
+        SetTraceSink(MakeFileTraceSink("stderr"));
+    else if (auto sink = TraceSinkFromEnvironment())
+        SetTraceSink(std::move(sink));
+    ChooseOffscreenWhenThereIsNoDisplay(parsed.options.screenshotFile.has_value());
+    try {
+        return Run(argc, argv, parsed.options);
+    } catch (const std::exception& failure) {
+        std::cerr << "trovane-dialog: " << failure.what() << '\n';
+        return 1;
+    }
+}

@@ -1,0 +1,127 @@
+#include "qt/choice_bindings.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QTabBar>
+
+#include "platform/controls/combo_box.h"
+#include "platform/controls/tab_strip.h"
+#include "qt/text.h"
+
+namespace trovane::qt {
+
+namespace {
+ComboBox& Combo(Control& control) {
+    return static_cast<ComboBox&>(control);
+}
+TabStrip& Strip(Control& control) {
+    return static_cast<TabStrip&>(control);
+}
+}  // namespace
+
+QWidget* ComboBoxBinding::CreateView(QWidget* parent) {
+    auto* combo = new QComboBox(parent);
+    combo->setEditable(Combo(Model()).ListStyle() != ComboBox::Style::DropDownList);
+    QObject::connect(combo, &QComboBox::activated, this,
+                     [this](int index) { Input([&] { Combo(Model()).SetListIndex(index); }); });
+    if (QLineEdit* edit = combo->lineEdit()) {
+        QObject::connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+            Input([&] { Combo(Model()).SetText(ToModelText(text)); });
+        });
+    }
+    return combo;
+}
+
+void ComboBoxBinding::MirrorOwn(ControlProperty property) {
+    switch (property) {
+        case ControlProperty::Items:
+            ShowItems();
+            ShowChoice();
+            break;
+        case ControlProperty::ListIndex:
+        case ControlProperty::Text:
+            ShowChoice();
+            break;
+        case ControlProperty::Style:
+            if (auto* combo = qobject_cast<QComboBox*>(View()))
+                combo->setEditable(Combo(Model()).ListStyle() != ComboBox::Style::DropDownList);
+            break;
+        default:
+            ControlBinding::MirrorOwn(property);
+            break;
+    }
+}
+
+void ComboBoxBinding::MirrorAll() {
+    ControlBinding::MirrorAll();
+    MirrorOwn(ControlProperty::Items);
+}
+
+void ComboBoxBinding::AfterInput() {
+    ShowChoice();
+}
+
+void ComboBoxBinding::ShowItems() {
+    auto* combo = qobject_cast<QComboBox*>(View());
+    if (!combo) return;
+    combo->clear();
+    for (const std::string& item : Combo(Model()).Items()) combo->addItem(ToQString(item));
+}
+
+void ComboBoxBinding::ShowChoice() {
+    auto* combo = qobject_cast<QComboBox*>(View());
+    if (!combo) return;
+    const ComboBox& model = Combo(Model());
+    combo->setCurrentIndex(model.ListIndex());
+    if (combo->isEditable() && combo->currentText() != ToQString(model.Text()))
+        combo->setEditText(ToQString(model.Text()));
+}
+
+QWidget* TabStripBinding::CreateView(QWidget* parent) {
+    auto* bar = new QTabBar(parent);
+    bar->setExpanding(false);
+    QObject::connect(bar, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index >= 0) Input([&] { Strip(Model()).ClickTab(index + 1); });
+    });
+    return bar;
+}
+
+void TabStripBinding::MirrorOwn(ControlProperty property) {
+    switch (property) {
+        case ControlProperty::Tabs:
+            ShowTabs();
+            ShowSelectedTab();
+            break;
+        case ControlProperty::SelectedTab:
+            ShowSelectedTab();
+            break;
+        default:
+            ControlBinding::MirrorOwn(property);
+            break;
+    }
+}
+
+void TabStripBinding::MirrorAll() {
+    ControlBinding::MirrorAll();
+    MirrorOwn(ControlProperty::Tabs);
+}
+
+void TabStripBinding::AfterInput() {
+    ShowSelectedTab();
+}
+
+void TabStripBinding::ShowTabs() {
+    auto* bar = qobject_cast<QTabBar*>(View());
+    if (!bar) return;
+    while (bar->count() > 0) bar->removeTab(0);
+    const TabStrip& model = Strip(Model());
+    for (int32_t position = 1; position <= model.TabCount(); ++position)
+        bar->addTab(ToQString(model.GetTab(position).caption));
+}
+
+void TabStripBinding::ShowSelectedTab() {
+    auto* bar = qobject_cast<QTabBar*>(View());
+    if (bar) bar->setCurrentIndex(Strip(Model()).SelectedTab() - 1);
+}
+
+}  // namespace trovane::qt

@@ -1,0 +1,138 @@
+#include "qt/form_view.h"
+
+#include <QCloseEvent>
+#include <QFontMetrics>
+
+#include "platform/controls/frame.h"
+#include "qt/binding_factory.h"
+#include "qt/text.h"
+#include "qt/twips.h"
+
+namespace trovane::qt {
+
+FormView::FormView(std::shared_ptr<Form> formIn, TwipsScale scaleIn, QWidget* parent)
+    : QWidget(parent), form(std::move(formIn)), scale(scaleIn) {
+    setObjectName(ToQString(form->Name()));
+    setWindowTitle(ToQString(form->Caption()));
+    for (Control& control : form->Controls()) Bind(control);
+    ShowSize();
+
+    std::weak_ptr<bool> token = alive;
+    form->onControlAdded.Connect([this, token](Control& control) {
+        if (token.lock()) Bind(control);
+    });
+    form->onControlRemoved.Connect([this, token](Control& control) {
+        if (token.lock()) Unbind(control);
+    });
+    form->onChanged.Connect([this, token](ControlProperty property) {
+        if (token.lock()) OnFormChanged(property);
+    });
+    form->SetTextMeasure(
+        [this, token](std::string_view text) { return token.lock() ? MeasureText(text) : 0; });
+}
+
+FormView::~FormView() {
+    alive.reset();
+    form->SetTextMeasure(nullptr);
+    // Bindings go first, while the widgets they watch still exist.
+    bindings.clear();
+}
+
+QWidget* FormView::WidgetOf(const Control& control) const {
+    const auto found = bindings.find(&control);
+    return found == bindings.end() ? nullptr : found->second->View();
+}
+
+QWidget* FormView::WidgetOf(std::string_view name, int16_t index) const {
+    const Control* control = form->Find(name, index);
+    return control ? WidgetOf(*control) : nullptr;
+}
+
+// Closing the window is the operator unloading the form; a handler may cancel it.
+void FormView::closeEvent(QCloseEvent* event) {
+    if (form->Loaded() && !form->Unload()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+}
+
+void FormView::Bind(Control& control) {
+    auto shared = std::static_pointer_cast<Control>(control.shared_from_this());
+    auto binding = MakeBinding(shared, scale);
+    binding->Attach(AreaFor(control));
+    std::weak_ptr<bool> token = alive;
+    Control* watched = &control;
+    control.onChanged.Connect([this, token, watched](ControlProperty property) {
+        if (token.lock()) OnControlChanged(*watched, property);
+    });
+    bindings[&control] = std::move(binding);
+}
+
+void FormView::Unbind(Control& control) {
+    bindings.erase(&control);
+}
+
+QWidget* FormView::AreaFor(const Control& control) const {
+    if (const Frame* frame = control.Container()) {
+        const auto found = bindings.find(frame);
+        if (found != bindings.end() && found->second->ChildArea()) return found->second->ChildArea();
+    }
+    return const_cast<FormView*>(this);
+}
+
+// Moving a control into a frame moves its widget there; a text box that becomes multi-line needs
+// the other kind of editor, so it is bound afresh.
+void FormView::OnControlChanged(Control& control, ControlProperty property) {
+    const auto found = bindings.find(&control);
+    if (found == bindings.end()) return;
+    if (property == ControlProperty::Container) {
+        if (QWidget* widget = found->second->View()) {
+            widget->setParent(AreaFor(control));
+            widget->setVisible(control.Visible());
+        }
+        found->second->Reposition();
+    } else if (property == ControlProperty::MultiLine) {
+        Unbind(control);
+        auto binding = MakeBinding(std::static_pointer_cast<Control>(control.shared_from_this()), scale);
+        binding->Attach(AreaFor(control));
+        bindings[&control] = std::move(binding);
+    }
+}
+
+void FormView::OnFormChanged(ControlProperty property) {
+    switch (property) {
+        case ControlProperty::Caption:
+            setWindowTitle(ToQString(form->Caption()));
+            break;
+        case ControlProperty::Geometry:
+            ShowSize();
+            break;
+        case ControlProperty::Visible:
+            // A panel sited in a host is shown by its host; only a form of its own shows and hides.
+            if (isWindow()) setVisible(form->Visible());
+            break;
+        case ControlProperty::Enabled:
+            setEnabled(form->Enabled());
+            break;
+        default:
+            break;
+    }
+}
+
+// A form in a window may be resized by the operator; a panel keeps the size its form gives it.
+void FormView::ShowSize() {
+    if (form->Width() <= 0 || form->Height() <= 0) return;
+    const QSize size(TwipsToPixels(form->Width(), scale.x), TwipsToPixels(form->Height(), scale.y));
+    if (isWindow())
+        resize(size);
+    else
+        setFixedSize(size);
+}
+
+int32_t FormView::MeasureText(std::string_view text) const {
+    const QFontMetrics metrics(font());
+    return PixelsToTwips(metrics.horizontalAdvance(ToQString(std::string(text))), scale.x);
+}
+
+}  // namespace trovane::qt

@@ -1,0 +1,49 @@
+#pragma once
+// FormView: one headless form on screen.
+//
+// The view is a widget whose client area is the form: it makes a widget for every control the
+// form holds and for every control added later, puts controls placed in a frame inside that
+// frame's widget, and follows the form's caption (the window title), size (twips scaled to the
+// screen) and visibility. It lends the form its font for TextWidth, so column fitting measures
+// what the operator sees. The view keeps the form alive; the form's signals reach the view only
+// while it exists.
+
+#include <map>
+#include <memory>
+
+#include <QWidget>
+
+#include "platform/controls/form.h"
+#include "qt/control_binding.h"
+
+namespace trovane::qt {
+
+class FormView final : public QWidget {
+  public:
+    FormView(std::shared_ptr<Form> form, TwipsScale scale, QWidget* parent = nullptr);
+    ~FormView() override;
+
+    Form& Model() const { return *form; }
+    // The widget of a control, or nullptr (no such control, or a control without a widget).
+    QWidget* WidgetOf(const Control& control) const;
+    QWidget* WidgetOf(std::string_view name, int16_t index = -1) const;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    void Bind(Control& control);
+    void Unbind(Control& control);
+    QWidget* AreaFor(const Control& control) const;
+    void OnControlChanged(Control& control, ControlProperty property);
+    void OnFormChanged(ControlProperty property);
+    void ShowSize();
+    int32_t MeasureText(std::string_view text) const;
+
+    std::shared_ptr<Form> form;
+    TwipsScale scale;
+    std::map<const Control*, std::unique_ptr<ControlBinding>> bindings;
+    std::shared_ptr<bool> alive = std::make_shared<bool>(true);
+};
+
+}  // namespace trovane::qt
