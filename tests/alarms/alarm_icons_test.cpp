@@ -11,11 +11,6 @@ namespace {
 
 const IconDirectories kDirectories = IconDirectoriesFor("C:\\sc", "DEMO");
 
-TEST(AlarmIcons, DirectoriesUnderTheServerRoot) {
-    EXPECT_EQ(kDirectories.application, "C:\\sc\\apl\\DEMO\\aplmod4\\defaults\\icons\\");
-    EXPECT_EQ(kDirectories.library, "C:\\sc\\ovo_lib\\defaults\\icons\\");
-}
-
 TEST(AlarmIcons, ApplicationDirectoryWinsThenLibraryThenFallback) {
     testing::MemoryFiles files;
     files.Put(kDirectories.application + "AlarmLedNormal.ico", "app");
@@ -43,15 +38,6 @@ TEST(AlarmIcons, MissingFilesNeverShiftPositions) {
     EXPECT_EQ(images.Item(2).name, kDirectories.library + "AlarmLedFleeting.ico");
     EXPECT_EQ(images.Item(9).name, kDirectories.library + "AlarmLedSubstituted.ico");
     EXPECT_EQ(images.Item(1), FallbackLedPicture());
-}
-
-TEST(AlarmIcons, FallbackIsARealIconWithTwoSizes) {
-    const Picture fallback = FallbackLedPicture();
-    ASSERT_GE(fallback.bytes.size(), 6u + 2 * 16);
-    EXPECT_EQ(fallback.bytes[2], 1);  // type: icon
-    EXPECT_EQ(fallback.bytes[4], 2);  // two images
-    EXPECT_EQ(fallback.bytes[6], 16);
-    EXPECT_EQ(fallback.bytes[6 + 16], 32);
 }
 
 }  // namespace

@@ -28,24 +28,6 @@ TEST_F(AlarmsPanelTest, RefreshShowsKnownStatesInServerOrder) {
     EXPECT_FALSE(panel->btnAckSelected.Enabled());
 }
 
-TEST_F(AlarmsPanelTest, AcknowledgedAlarmsDoNotEnableAcknowledgeAll) {
-    SetSignals({Signal("ABC", 11, "FLEETING", false), Signal("ABC", 12, "ACTIVE_ACKNOWLEDGED", true)});
-    panel->RefreshAlarms();
-    EXPECT_FALSE(panel->AnyUnacknowledged());
-    EXPECT_FALSE(panel->btnAck.Enabled());
-}
-
-TEST_F(AlarmsPanelTest, EmptyAlarmListEmptiesTheView) {
-    SetThreeSignals();
-    panel->RefreshAlarms();
-    alarmList = Variant();
-    panel->RefreshAlarms();
-    EXPECT_EQ(panel->ListView1.ItemCount(), 0);
-    EXPECT_TRUE(panel->RowIdentities().empty());
-    EXPECT_FALSE(panel->btnAck.Enabled());
-    EXPECT_EQ(panel->ListView1.ColumnCount(), 3);
-}
-
 TEST_F(AlarmsPanelTest, WithoutAlarmRightsBothAcknowledgeButtonsStayDisabled) {
     container->SetRight("IsAlarmHandlingAllowed", false);
     SetThreeSignals();
@@ -115,14 +97,6 @@ TEST_F(AlarmsPanelTest, MoreThan32767SignalsIsAnOverflow) {
     } catch (const Error& error) {
         EXPECT_EQ(error.Number(), 6);
     }
-}
-
-TEST_F(AlarmsPanelTest, Exactly32767SignalsAreWalked) {
-    std::vector<Variant> signals(32767, Variant());
-    signals.back() = Signal("ABC", 1, "NORMAL");
-    SetSignals(std::move(signals));
-    panel->RefreshAlarms();
-    EXPECT_EQ(panel->ListView1.ItemCount(), 1);
 }
 
 TEST_F(AlarmsPanelTest, InitSetsCaptionsAndFillsAllNineIcons) {

@@ -44,26 +44,6 @@ TEST_F(AlarmsSelectionTest, RefreshReselectsTheRememberedSignalWithoutFreezing) 
     EXPECT_FALSE(panel->DisableUpdate);
 }
 
-TEST_F(AlarmsSelectionTest, RememberedSignalGoneSwitchesSingleBlockingOff) {
-    panel->RefreshAlarms();
-    panel->ListView1.ClickItem(1);
-    panel->DisableUpdate = false;
-    SetSignals({Signal("ABC", 11, "NORMAL")});
-    container->calls.clear();
-    panel->RefreshAlarms();
-    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
-    EXPECT_EQ(panel->ListView1.SelectedItem(), nullptr);
-}
-
-TEST_F(AlarmsSelectionTest, WithoutSingleBlockingTheContainerHearsNothing) {
-    panel->CanSelectSingleBlocking = false;
-    panel->RefreshAlarms();
-    panel->ListView1.ClickItem(1);
-    EXPECT_TRUE(container->CallsOf("SetSingleBlocking").empty());
-    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
-    EXPECT_TRUE(panel->btnAckSelected.Enabled());
-}
-
 TEST_F(AlarmsSelectionTest, NavigationKeysRunTheSelectionStep) {
     panel->RefreshAlarms();
     panel->ListView1.ClickItem(2);
@@ -79,15 +59,6 @@ TEST_F(AlarmsSelectionTest, NavigationKeysRunTheSelectionStep) {
     panel->ListView1.PressKey(35);  // end
     EXPECT_EQ(panel->RememberedSignal(), "ABC:12");
     EXPECT_FALSE(panel->btnAckSelected.Enabled());
-}
-
-TEST_F(AlarmsSelectionTest, NonNumericIndexIsNotHandedOver) {
-    SetSignals({MakeVariantArray({"ABC", "X1", "text", "NORMAL", false}, 1)});
-    panel->RefreshAlarms();
-    container->calls.clear();
-    panel->ListView1.ClickItem(1);
-    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
-    EXPECT_EQ(panel->RememberedSignal(), "");
 }
 
 }  // namespace

@@ -34,15 +34,5 @@ TEST(BlockingCommands, OnlyACheckedEnabledOptionSelectsTheSignal) {
     EXPECT_EQ(ApplyToMode(0, true), "APPLY_TO_ALL");
 }
 
-TEST(BlockingKinds, NamesKeepTheirDeliberateMismatches) {
-    EXPECT_EQ(kBlockingKinds[0].traceWord, "update");
-    EXPECT_EQ(kBlockingKinds[3].property, "History");
-    EXPECT_EQ(kBlockingKinds[3].serverKeyword, "EVENT");
-    EXPECT_EQ(kBlockingKinds[5].property, "Reprocessing");
-    EXPECT_EQ(kBlockingKinds[5].serverKeyword, "ACTION");
-    EXPECT_EQ(FindBlockingKindByProperty("control")->checkBox, "Check2");
-    EXPECT_EQ(FindBlockingKindByProperty("Event"), nullptr);
-}
-
 }  // namespace
 }  // namespace trovane
