@@ -27,7 +27,8 @@ ErrorDlg::ErrorDlg(PlatformServices platform)
       Label1(Add<Label>("Label1")),
       Command1(Add<CommandButton>("Command1")),
       Timer1(Add<Timer>("Timer1")),
-      functions(std::make_unique<CommonFunctions>(std::move(platform))) {
+      services(std::move(platform)),
+      functions(std::make_unique<CommonFunctions>(services)) {
     Move(0, 0, 4800, 2100);
     Label1.Move(120, 120, 4560, 1200);
     Command1.Move(1800, 1440, 1200, 375);
@@ -48,6 +49,7 @@ void ErrorDlg::SetErrorText(std::string text) {
 }
 
 void ErrorDlg::SetLanguage(const std::string& language) {
+    functions = std::make_unique<CommonFunctions>(services);
     functions->SetLanguage(language);
 }
 

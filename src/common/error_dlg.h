@@ -10,7 +10,9 @@
 //
 // The dialog speaks the caller's language and reads the caller's time-out: the caller hands it its
 // language, start information and string replacement list, and the dialog configures a
-// CommonFunctions object of its own with them, which lives as long as the dialog.
+// CommonFunctions object of its own with them. Each hand-over starts with the language and renews
+// that object, so that a dialog reused for many errors neither piles up language files nor keeps a
+// replacement list that the latest caller does not have.
 //
 // There is one shared instance for the whole library (SharedErrorDlg), created on first use and
 // reused by every ShowError; MakeCleanup unloads and releases it. Unloading the dialog (OK or the
@@ -35,7 +37,8 @@ class ErrorDlg : public Form {
 
     explicit ErrorDlg(PlatformServices platform);
 
-    // What the caller hands over before showing the dialog, in this order.
+    // What the caller hands over before showing the dialog, in this order (SetLanguage renews the
+    // dialog's own CommonFunctions).
     void SetErrorText(std::string text);
     void SetLanguage(const std::string& language);
     void SetStartInfo(const Variant& startInfo);
@@ -56,6 +59,7 @@ class ErrorDlg : public Form {
     void OnTick();
     bool OperatorIsActive();
 
+    PlatformServices services;
     std::unique_ptr<CommonFunctions> functions;
     std::string errorText;
 };

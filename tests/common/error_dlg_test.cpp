@@ -42,12 +42,17 @@ TEST_F(ErrorDlgTest, LoadingSetsCaptionsTitleTextAndCountdown) {
     EXPECT_EQ(dialog.Timer1.Interval(), 1000);
 }
 
-TEST_F(ErrorDlgTest, CaptionsComeFromTheCallersReplacementTexts) {
+TEST_F(ErrorDlgTest, CaptionsComeFromTheLatestCallersReplacementTexts) {
     functions->SetStringReplacementList(
         MakeVariantArray({Variant(), "x", "ID271", "Fehler", "ID270", "Schliessen"}));
     ErrorDlg& dialog = ShowWithTimeout("90");
     EXPECT_EQ(dialog.Caption(), "Fehler");
     EXPECT_EQ(dialog.Command1.Caption(), "Schliessen");
+
+    dialog.Unload();
+    CommonFunctions otherCaller(platform);
+    otherCaller.ShowError("x");
+    EXPECT_EQ(dialog.Caption(), "Trovane Error");
 }
 
 TEST_F(ErrorDlgTest, ClosesOnTheNinetiethTickWithoutInput) {
