@@ -25,6 +25,7 @@ constexpr int32_t kMinimumListHeight = 600;
 constexpr int32_t kIconColumnPixels = 22;
 constexpr int32_t kTextPaddingPixels = 15;
 constexpr int32_t kScrollBarPixels = 17;
+constexpr int32_t kBorderPixels = 2;  // the list's sunken client edge, on each side
 constexpr int32_t kEdgeMargin = 27;
 constexpr int32_t kTwipsPerPixel = 15;
 }  // namespace
@@ -90,14 +91,16 @@ void Alarms::FitColumns() {
     StretchLastColumn();
 }
 
-// The last column ends at the list's visible right edge (inside the vertical scroll bar) when the
-// columns are narrower than the list; wider contents keep their width and scroll.
+// The last column ends at the list's visible right edge (inside the border and the vertical scroll
+// bar, less a small margin) when the columns are narrower than the list; wider contents keep their
+// width and scroll.
 void Alarms::StretchLastColumn() {
     const int32_t last = ListView1.ColumnCount();
     if (last < 2) return;
     int32_t others = 0;
     for (int32_t column = 1; column < last; ++column) others += ListView1.Column(column).width;
-    const int32_t visible = ListView1.Width() - Pixels(kScrollBarPixels) - kEdgeMargin - others;
+    const int32_t visible =
+        ListView1.Width() - Pixels(2 * kBorderPixels + kScrollBarPixels) - kEdgeMargin - others;
     if (visible > ListView1.Column(last).width) ListView1.SetColumnWidth(last, visible);
 }
 

@@ -168,7 +168,7 @@ TEST_F(AlarmsPanelTest, ResizeKeepsTheLastColumnAtTheVisibleEdge) {
     EXPECT_EQ(panel->Width(), 9000);
     EXPECT_EQ(list.Column(1).width, 22 * 15);
     const int32_t total = list.Column(1).width + list.Column(2).width + list.Column(3).width;
-    EXPECT_EQ(total, list.Width() - 17 * 15 - 27);
+    EXPECT_EQ(total, list.Width() - (4 + 17) * 15 - 27);
     EXPECT_GT(panel->btnRefresh.Left(), panel->btnAckSelected.Left());
     EXPECT_LE(list.Top() + list.Height(), panel->btnAck.Top());
 }
