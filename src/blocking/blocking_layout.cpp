@@ -88,6 +88,9 @@ void Blocking::ConnectEvents() {
     btnOK.onClick.Connect([this] { OnOkClicked(); });
     btnCancel.onClick.Connect([this] { OnCancelClicked(); });
     btnRefresh.onClick.Connect([this] { RefreshStates(); });
+    // A loaded panel starts idle; while it is being unloaded nothing the controls report is an edit.
+    onLoad.Connect([this] { isRefreshing = false; });
+    onUnload.Connect([this](bool&) { isRefreshing = true; });
 }
 
 CheckBox& Blocking::KindCheckBox(int16_t position) const {
