@@ -43,29 +43,33 @@ std::optional<int32_t> WholeNumber(const std::string& text) {
     }
 }
 
-}  // namespace
-
-void CommonFunctions::SetStartInfo(const Variant& StartInfo) {
-    startInfo = StartInfo;
-    SetLanguage(ToString(GetListItem(startInfo, "LANGUAGE")));
-
-    if (!IsOne(GetListItemDef(startInfo, "USE_CST", int16_t{0}))) return;
-    const int16_t application = ToInt16(GetListItem(startInfo, "APP_NR"));
-    const std::string languageCode = ToString(GetListItem(startInfo, "LANGUAGE"));
-    const std::string userName = ToString(GetListItem(startInfo, "USER_NAME"));
-    Cst& cst = Cst::Shared(platform_);
+// Who and where first, then the folders, which need the server's answer: without a usable path the
+// tool keeps what it was told so far.
+void ConfigureColorSettingTool(CommonFunctions& functions, const Variant& startInfo) {
+    const int16_t application = ToInt16(functions.GetListItem(startInfo, "APP_NR"));
+    const std::string languageCode = ToString(functions.GetListItem(startInfo, "LANGUAGE"));
+    const std::string userName = ToString(functions.GetListItem(startInfo, "USER_NAME"));
+    Cst& cst = Cst::Shared(functions.Platform());
     cst.SetColorSettingToolParameter("UserName", userName);
     cst.SetColorSettingToolParameter("Language", languageCode);
     cst.SetColorSettingToolParameter("ApplicationNumber", application);
 
     int32_t status = 0;
-    const std::optional<std::string> path = PathAnswer(RunVexlCmdGlobalWithStatus(
-        GetListItem(startInfo, "USED_OPC_SERVER"), kPathCommand, application, status));
+    const std::optional<std::string> path = PathAnswer(functions.RunVexlCmdGlobalWithStatus(
+        functions.GetListItem(startInfo, "USED_OPC_SERVER"), kPathCommand, application, status));
     if (!path || path->size() < kLogicalDirectoryLength) return;
     const std::string root = WithoutLogicalDirectory(*path);
     cst.SetColorSettingToolParameter("UserFolder", root + "PAR\\" + userName + "\\");
     cst.SetColorSettingToolParameter("AppFolder", root + "PAR\\APL\\");
     cst.SetColorSettingToolParameter("Initialize", "ColorScheme");
+}
+
+}  // namespace
+
+void CommonFunctions::SetStartInfo(const Variant& StartInfo) {
+    startInfo = StartInfo;
+    SetLanguage(ToString(GetListItem(startInfo, "LANGUAGE")));
+    if (IsOne(GetListItemDef(startInfo, "USE_CST", int16_t{0}))) ConfigureColorSettingTool(*this, startInfo);
 }
 
 Variant CommonFunctions::GetStartInfo() {
