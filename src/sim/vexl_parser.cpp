@@ -138,10 +138,22 @@ class Parser {
     }
 
     NodePtr ParseUnary() {
+        if (IsSymbol("+")) return ParseUnaryPlus();
         if (!IsSymbol("-")) return ParsePrimary();
         NestingGuard guard(depth_);
         ++pos_;
         NodePtr node = MakeNode(NodeKind::Negate);
+        node->operands.push_back(ParseUnary());
+        return node;
+    }
+
+    // A typed limit may carry a plus sign ("+5"); it reads as 0 + x, so only numbers take one.
+    NodePtr ParseUnaryPlus() {
+        NestingGuard guard(depth_);
+        ++pos_;
+        NodePtr node = MakeNode(NodeKind::Chain);
+        node->operands.push_back(Literal(Variant(int32_t{0})));
+        node->operators.emplace_back("+");
         node->operands.push_back(ParseUnary());
         return node;
     }

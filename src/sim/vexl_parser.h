@@ -4,7 +4,7 @@
 //   #RETURN [expression]            #SET object:attribute = expression       @name = expression
 //
 // Expressions, loosest binding first: OR; AND; NOT; one comparison (== <> < > <= >=); + and -;
-// * and /; unary minus; then literals, %variables, object attributes, function calls, LIST(...)
+// * and /; unary minus and plus; then literals, %variables, object attributes, function calls, LIST(...)
 // and parenthesised vectors. Every construct that nests counts against kMaxNesting.
 
 #include <optional>
