@@ -75,7 +75,9 @@ int RunConsole(const std::string& scenarioText, const std::vector<std::string>& 
     for (const auto& command : commands) allSucceeded &= RunOne(*connection, command, out);
     if (!commands.empty()) return allSucceeded ? 0 : 1;
     std::string line;
-    while ((prompt && out << "vexl> " << std::flush), std::getline(in, line)) {
+    for (;;) {
+        if (prompt) out << "vexl> " << std::flush;
+        if (!std::getline(in, line)) break;
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (line.find_first_not_of(" \t") == std::string::npos) continue;
         allSucceeded &= RunOne(*connection, line, out);

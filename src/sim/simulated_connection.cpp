@@ -1,6 +1,7 @@
 #include "sim/simulated_connection.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "core/conversions.h"
 #include "core/error.h"
@@ -17,6 +18,13 @@ const VariantArray& ArrayArgument(const Variant& value, const char* what) {
     if (!value.IsArray())
         throw Error(ErrorNumber::InvalidCall, std::string("AddItems: ") + what + " must be an array");
     return value.AsArray();
+}
+
+// Handles and transaction numbers count from 1 and start over rather than overflow.
+int32_t NextNumber(int32_t& counter) {
+    const int32_t number = counter;
+    counter = counter == INT32_MAX ? 1 : counter + 1;
+    return number;
 }
 
 }  // namespace
@@ -75,7 +83,7 @@ void SimulatedConnection::AddItems(const Variant& clientHandles, const Variant& 
         subscription.items.push_back(MakeItem(ToInt32(handles.Elements()[i]), paths.Elements()[i], result));
         itemResults.Set(paths.LowerBound() + static_cast<int64_t>(i), result);
     }
-    subscriptionHandle = nextHandle_++;
+    subscriptionHandle = NextNumber(nextHandle_);
     QueueAll(subscriptionHandle, subscription);
     subscriptions_.emplace(subscriptionHandle, std::move(subscription));
     results = Variant(std::move(itemResults));
@@ -160,7 +168,7 @@ void SimulatedConnection::Deliver(int32_t handle, const std::vector<size_t>& ite
             qualities.Set(position, kBadQuality);
         }
     }
-    subscription.callback->OnDataChange(nextTransaction_++, handle, static_cast<int32_t>(count),
+    subscription.callback->OnDataChange(NextNumber(nextTransaction_), handle, static_cast<int32_t>(count),
                                         Variant(std::move(clientHandles)), Variant(std::move(values)),
                                         Variant(std::move(qualities)), Variant(std::move(timeStamps)));
 }
