@@ -75,6 +75,15 @@ TEST_F(SubscriptionTest, DerivedAttributesNotifyToo) {
     EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(int32_t{1000})});
 }
 
+TEST_F(SubscriptionTest, PathWithoutIndexFollowsTheMainObject) {
+    SubscribeQuietly({"\\\\APL\\1\\P\\ABC:OV", "\\\\APL\\1\\P\\ABC:TX"});
+    Run("#SET ABC:POV10=1");
+    Run("#SET ABC:PTX11=\"other signal\"");
+    connection->Pump();
+    EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1})});
+    EXPECT_TRUE(callback.ValuesOf(2).empty());
+}
+
 TEST_F(SubscriptionTest, AcknowledgementNotifiesTheApplicationAlarmItem) {
     SubscribeQuietly({"\\\\APL\\1:AT"});
     clock.now = MakeDate(2026, 11, 22, 11, 0, 0);
