@@ -45,9 +45,44 @@ trovane_add_test(platform_resources_test
         ${CMAKE_CURRENT_SOURCE_DIR}/utf16_test.cpp
         ${CMAKE_CURRENT_SOURCE_DIR}/pe_string_table_test.cpp
         ${CMAKE_CURRENT_SOURCE_DIR}/pe_resource_files_test.cpp
+        ${CMAKE_CURRENT_SOURCE_DIR}/load_string_oracle_test.cpp
     LIBS Trovane::platform)
 target_compile_definitions(platform_resources_test PRIVATE
     TROVANE_LANGUAGE_FILES_DIR="${TROVANE_LANGUAGE_FILES_DIR}"
     $<$<BOOL:${TROVANE_HAVE_LANGUAGE_FILES}>:TROVANE_HAVE_LANGUAGE_FILES>
     $<$<BOOL:${TROVANE_HAVE_LANGUAGE_FILES_32}>:TROVANE_HAVE_LANGUAGE_FILES_32>)
 add_dependencies(platform_resources_test trovane_language_files)
+
+# Optional independent oracle: a console program that asks the platform's own loader (under wine)
+# for every text of the real language files, compared with our reader. Needs clang, the MinGW
+# dlltool and linker, and wine; skipped when any is missing.
+find_program(TROVANE_CLANG NAMES clang clang-14)
+find_program(TROVANE_DLLTOOL_64 x86_64-w64-mingw32-dlltool)
+find_program(TROVANE_WINE NAMES wine64 wine PATHS /usr/lib/wine)
+set(TROVANE_ORACLE_SOURCES ${TROVANE_RESOURCE_SOURCES_DIR}/oracle)
+set(TROVANE_ORACLE ${TROVANE_LANGUAGE_FILES_DIR}/oracle/load_string_oracle.exe)
+set(TROVANE_HAVE_ORACLE OFF)
+if(TROVANE_HAVE_LANGUAGE_FILES AND TROVANE_CLANG AND TROVANE_DLLTOOL_64 AND TROVANE_WINE)
+    set(TROVANE_HAVE_ORACLE ON)
+    set(oracle_dir ${TROVANE_LANGUAGE_FILES_DIR}/oracle)
+    add_custom_command(OUTPUT ${TROVANE_ORACLE}
+        COMMAND ${CMAKE_COMMAND} -E make_directory ${oracle_dir}
+        COMMAND ${TROVANE_DLLTOOL_64} -d ${TROVANE_ORACLE_SOURCES}/kernel32.def -l ${oracle_dir}/libkernel32.a
+        COMMAND ${TROVANE_DLLTOOL_64} -d ${TROVANE_ORACLE_SOURCES}/user32.def -l ${oracle_dir}/libuser32.a
+        COMMAND ${TROVANE_CLANG} --target=x86_64-w64-windows-gnu -ffreestanding -fno-stack-protector -O1
+                -c ${TROVANE_ORACLE_SOURCES}/load_string_oracle.c -o ${oracle_dir}/load_string_oracle.o
+        COMMAND ${TROVANE_LD_64} -e Start --subsystem console -o ${TROVANE_ORACLE}
+                ${oracle_dir}/load_string_oracle.o ${oracle_dir}/libkernel32.a ${oracle_dir}/libuser32.a
+        DEPENDS ${TROVANE_ORACLE_SOURCES}/load_string_oracle.c ${TROVANE_ORACLE_SOURCES}/kernel32.def
+                ${TROVANE_ORACLE_SOURCES}/user32.def
+        COMMENT "Building the language file oracle"
+        VERBATIM)
+    add_custom_target(trovane_language_file_oracle DEPENDS ${TROVANE_ORACLE})
+    add_dependencies(platform_resources_test trovane_language_file_oracle)
+else()
+    message(STATUS "clang, dlltool or wine not found: the language file oracle test is skipped")
+endif()
+target_compile_definitions(platform_resources_test PRIVATE
+    TROVANE_ORACLE="${TROVANE_ORACLE}" TROVANE_WINE="${TROVANE_WINE}"
+    TROVANE_WINE_PREFIX="${PROJECT_BINARY_DIR}/tests/wineprefix"
+    $<$<BOOL:${TROVANE_HAVE_ORACLE}>:TROVANE_HAVE_ORACLE>)
