@@ -27,11 +27,13 @@ int32_t StatusOfRuntimeError(const Error& error) {
 }  // namespace
 
 Variant VexlInterpreter::Run(const std::string& command) {
-    VexlEvaluator evaluator(environment_, variables_);
+    // Variables belong to one run, so a procedure that runs a command of its own cannot disturb them.
+    VexlVariables variables;
+    VexlEvaluator evaluator(environment_, variables);
     std::string_view rest = command;
     while (true) {
         const size_t end = rest.find('\n');
-        const std::string line = SpliceQuotedNames(rest.substr(0, end), variables_);
+        const std::string line = SpliceQuotedNames(rest.substr(0, end), variables);
         if (std::optional<Statement> statement = ParseStatement(line)) {
             switch (statement->kind) {
                 case StatementKind::Return:
@@ -41,7 +43,7 @@ Variant VexlInterpreter::Run(const std::string& command) {
                                                 evaluator.Evaluate(*statement->expression));
                     break;
                 case StatementKind::Assign:
-                    variables_[statement->variable] = evaluator.Evaluate(*statement->expression);
+                    variables[statement->variable] = evaluator.Evaluate(*statement->expression);
                     break;
             }
         }
@@ -52,7 +54,6 @@ Variant VexlInterpreter::Run(const std::string& command) {
 
 Variant VexlInterpreter::Execute(const std::string& command, int32_t& status) {
     status = 0;
-    variables_.clear();
     try {
         return Run(command);
     } catch (const VexlStatus& failure) {
@@ -66,7 +67,6 @@ Variant VexlInterpreter::Execute(const std::string& command, int32_t& status) {
         // server goes on.
         status = status::kProcedureFailed;
     }
-    variables_.clear();
     return Variant();
 }
 

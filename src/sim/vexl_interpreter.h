@@ -18,7 +18,6 @@
 #include "core/variant.h"
 #include "sim/vexl_environment.h"
 #include "sim/vexl_notation.h"
-#include "sim/vexl_splice.h"
 #include "sim/vexl_status_names.h"
 #include "sim/vexl_values.h"
 
@@ -37,7 +36,6 @@ class VexlInterpreter {
     Variant Run(const std::string& command);
 
     VexlEnvironment& environment_;
-    VexlVariables variables_;
 };
 
 }  // namespace trovane::sim
