@@ -38,32 +38,40 @@ void Alarms::RefreshAlarms() {
     ListView1.ClearItems();
     const Variant alarmList = services.GetListItem(CallMethod(container, "GetAlarms"), "COMBO_LIST");
     anyUnacknowledged = false;
-
-    ListItem* reselected = nullptr;
-    if (alarmList.IsArray()) {
-        const VariantArray& elements = alarmList.AsArray();
-        const int16_t upper = UpperBound16(elements.UpperBound());
-        for (int32_t i = 1; i <= upper; ++i) {
-            const std::optional<AlarmRow> row =
-                ClassifyAlarmElement(elements.Contains(i) ? elements.At(i) : Variant());
-            if (!row) continue;
-            ListItem* item = AddRow(*row);
-            if (CanSelectSingleBlocking && row->identity == rememberedSignal) {
-                ListView1.SelectItem(item);
-                reselected = item;
-            }
-        }
-    }
-
+    ListItem* reselected = AddRows(alarmList);
     btnAck.SetEnabled(IsAlarmHandlingAllowed() && anyUnacknowledged);
     btnAckSelected.SetEnabled(false);
-    if (CanSelectSingleBlocking) {
-        if (reselected == nullptr)
-            CallMethod(container, "SetSingleBlocking", {Variant(false)});
-        else
-            SelectRow(false);
-    }
+    if (CanSelectSingleBlocking) FollowRememberedSignal(reselected);
     FitColumns();
+}
+
+// Adds a row for every signal of a known state, in the server's order; returns the row of the
+// remembered signal when the selection drives the blocking panel (selected, without an event).
+ListItem* Alarms::AddRows(const Variant& alarmList) {
+    if (!alarmList.IsArray()) return nullptr;  // no alarm list: an empty view
+    const VariantArray& elements = alarmList.AsArray();
+    const int16_t upper = UpperBound16(elements.UpperBound());
+    ListItem* reselected = nullptr;
+    for (int32_t i = 1; i <= upper; ++i) {
+        const std::optional<AlarmRow> row =
+            ClassifyAlarmElement(elements.Contains(i) ? elements.At(i) : Variant());
+        if (!row) continue;
+        ListItem* item = AddRow(*row);
+        if (CanSelectSingleBlocking && row->identity == rememberedSignal) {
+            ListView1.SelectItem(item);
+            reselected = item;
+        }
+    }
+    return reselected;
+}
+
+// The blocking panel keeps working on the remembered signal while it is listed, and falls back to
+// the whole object when it is not.
+void Alarms::FollowRememberedSignal(const ListItem* reselected) {
+    if (reselected == nullptr)
+        CallMethod(container, "SetSingleBlocking", {Variant(false)});
+    else
+        SelectRow(false);
 }
 
 void Alarms::EnsureColumns() {

@@ -84,7 +84,9 @@ class Alarms : public Form, public SysDataCallback {
 
     void LoadIcons();
     void EnsureColumns();
+    ListItem* AddRows(const Variant& alarmList);
     ListItem* AddRow(const AlarmRow& row);
+    void FollowRememberedSignal(const ListItem* reselected);
     void SelectRow(bool freezeUpdates);
     void HandOverSignal(const std::string& identity);
     void FitColumns();

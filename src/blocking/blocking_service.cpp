@@ -7,6 +7,7 @@
 
 #include "blocking/blocking.h"
 #include "core/conversions.h"
+#include "platform/controls/control_errors.h"
 
 namespace trovane {
 
@@ -59,9 +60,12 @@ int16_t Blocking::KindValue(int16_t position) const {
     return blockingValues[position - 1];
 }
 
-// Storing first and then writing the box matters: the box's Click sees the new stored value.
+// Storing first and then writing the box matters: the box's Click sees the new stored value. A value
+// no check box can show is refused before anything is stored, so the stored values stay showable
+// (Cancel writes them back).
 void Blocking::SetKindValue(int16_t position, int16_t value) {
     CheckBox& box = KindCheckBox(position);
+    if (value < CheckBox::Unchecked || value > CheckBox::Grayed) throw InvalidPropertyValue();
     blockingValues[position - 1] = value;
     box.SetValue(value);
 }

@@ -155,6 +155,7 @@ TEST_F(BlockingPanelTest, EmptyOrMalformedReadIsAnErrorExit) {
         panel->RefreshStates();
         EXPECT_EQ(trace.Lines().back(), "<- Blocking.RefreshStates ERROR OCCURRED!!!") << TypeName(answer);
     }
+    EXPECT_EQ(panel->Reprocessing(), 0);  // the unshowable 7 was not stored
 }
 
 TEST_F(BlockingPanelTest, MembersAnswerByName) {
