@@ -58,7 +58,7 @@ class Lexer {
 
     Token Next() {
         const char c = Peek();
-        if (IsDigit(c)) return ReadNumber();
+        if (IsDigit(c) || (c == '.' && IsDigit(Peek(1)))) return ReadNumber();
         if (c == '"') return ReadText();
         if (IsNameStart(c)) return ReadNameOrObject();
         if (c == '%' || c == '@' || c == '#') return ReadPrefixed(c);
@@ -125,7 +125,8 @@ class Lexer {
         const size_t start = pos_;
         bool real = false;
         ReadDigits();
-        if (Peek() == '.' && IsDigit(Peek(1))) {
+        // A typed value may read ".5" or "5."; both are reals.
+        if (Peek() == '.') {
             real = true;
             ++pos_;
             ReadDigits();
