@@ -61,25 +61,36 @@ class Parser {
     }
 
     Statement ParseStatementTokens() {
-        Statement statement;
         const Token first = Take();
-        if (first.kind == TokenKind::Directive && first.text == "RETURN") {
-            statement.kind = StatementKind::Return;
-            if (Current().kind != TokenKind::End) statement.expression = ParseExpression();
-        } else if (first.kind == TokenKind::Directive && first.text == "SET") {
-            if (Current().kind != TokenKind::Object) SyntaxError("object attribute expected after #SET");
-            statement.kind = StatementKind::Set;
-            statement.target = Take().reference;
-            Expect("=");
-            statement.expression = ParseExpression();
-        } else if (first.kind == TokenKind::Assign) {
-            statement.kind = StatementKind::Assign;
-            statement.variable = first.text;
-            Expect("=");
-            statement.expression = ParseExpression();
-        } else {
-            SyntaxError("statement expected");
-        }
+        if (first.kind == TokenKind::Directive && first.text == "RETURN") return ParseReturn();
+        if (first.kind == TokenKind::Directive && first.text == "SET") return ParseSet();
+        if (first.kind == TokenKind::Assign) return ParseAssign(first.text);
+        SyntaxError("statement expected");
+    }
+
+    Statement ParseReturn() {
+        Statement statement;
+        statement.kind = StatementKind::Return;
+        if (Current().kind != TokenKind::End) statement.expression = ParseExpression();
+        return statement;
+    }
+
+    Statement ParseSet() {
+        if (Current().kind != TokenKind::Object) SyntaxError("object attribute expected after #SET");
+        Statement statement;
+        statement.kind = StatementKind::Set;
+        statement.target = Take().reference;
+        Expect("=");
+        statement.expression = ParseExpression();
+        return statement;
+    }
+
+    Statement ParseAssign(const std::string& variable) {
+        Statement statement;
+        statement.kind = StatementKind::Assign;
+        statement.variable = variable;
+        Expect("=");
+        statement.expression = ParseExpression();
         return statement;
     }
 
@@ -102,12 +113,12 @@ class Parser {
     // A comparison does not chain: a < b < c is a syntax error rather than a surprise.
     NodePtr ParseComparison() {
         NodePtr left = ParseAdditive();
-        if (!AtOperator({"==", "<>", "<", ">", "<=", ">="})) return left;
+        if (!AtComparison()) return left;
         NodePtr node = MakeNode(NodeKind::Chain);
         node->operators.push_back(Take().text);
         node->operands.push_back(std::move(left));
         node->operands.push_back(ParseAdditive());
-        if (AtOperator({"==", "<>", "<", ">", "<=", ">="})) SyntaxError("comparisons do not chain");
+        if (AtComparison()) SyntaxError("comparisons do not chain");
         return node;
     }
 
@@ -117,6 +128,8 @@ class Parser {
     NodePtr ParseMultiplicative() {
         return ParseChain({"*", "/"}, [this] { return ParseUnary(); });
     }
+
+    bool AtComparison() const { return AtOperator({"==", "<>", "<", ">", "<=", ">="}); }
 
     bool AtOperator(std::initializer_list<std::string_view> operators) const {
         for (std::string_view op : operators)
