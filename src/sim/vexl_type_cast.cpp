@@ -43,7 +43,10 @@ Variant ToRealType(const Variant& value) {
 
 Variant ToTextType(const Variant& value) {
     if (value.IsString()) return value;
-    if (value.Kind() == VarKind::Date) return Variant(DateText(value.AsDate()));
+    if (value.Kind() == VarKind::Date) {
+        if (!IsTimeInRange(value.AsDate())) Mismatch("TEXT");
+        return Variant(DateText(value.AsDate()));
+    }
     if (value.IsNumber() || value.Kind() == VarKind::Boolean) return Variant(VexlNotation(value));
     Mismatch("TEXT");
 }
