@@ -10,8 +10,10 @@ void CheckBox::SetValue(int16_t value) {
     if (Assign(value_, value, ControlProperty::Value)) onClick.Emit();
 }
 
+// The operator's click toggles the checked mark as the platform's automatic check box does: a
+// grey box has no mark, so the click checks it.
 void CheckBox::Click() {
-    if (AcceptsInput()) SetValue(value_ == Unchecked ? Checked : Unchecked);
+    if (AcceptsInput()) SetValue(value_ == Checked ? Unchecked : Checked);
 }
 
 Variant CheckBox::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {

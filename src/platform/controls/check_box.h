@@ -3,8 +3,8 @@
 //
 // As in the classic model, setting the value raises Click, whether program code or the operator
 // set it: panels rely on that, and guard their Click handlers where they set the value themselves.
-// A value that is already set raises nothing. The operator's click checks an unchecked box and
-// unchecks a checked or grey one.
+// A value that is already set raises nothing. The operator's click unchecks a checked box and
+// checks an unchecked or grey one; only code makes a box grey.
 
 #include "platform/controls/control.h"
 

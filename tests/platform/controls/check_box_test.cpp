@@ -53,15 +53,15 @@ TEST_F(CheckBoxTest, ValueOutsideZeroToTwoIsRejectedWithoutClick) {
     EXPECT_TRUE(clicks.empty());
 }
 
-TEST_F(CheckBoxTest, OperatorClickTogglesAndUnchecksGrey) {
+TEST_F(CheckBoxTest, OperatorClickTogglesAndChecksGrey) {
     box.Click();
     EXPECT_EQ(box.Value(), CheckBox::Checked);
     box.Click();
     EXPECT_EQ(box.Value(), CheckBox::Unchecked);
     box.SetValue(CheckBox::Grayed);
     box.Click();
-    EXPECT_EQ(box.Value(), CheckBox::Unchecked);
-    EXPECT_EQ(clicks, (std::vector<int16_t>{1, 0, 2, 0}));
+    EXPECT_EQ(box.Value(), CheckBox::Checked);
+    EXPECT_EQ(clicks, (std::vector<int16_t>{1, 0, 2, 1}));
 }
 
 TEST_F(CheckBoxTest, OperatorClickIgnoredWhenDisabledOrInDisabledFrame) {
