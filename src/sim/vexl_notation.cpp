@@ -11,8 +11,8 @@ namespace {
 
 void Write(const Variant& value, std::string& out, int depth);
 
-std::string RealText(double value) {
-    std::string text = NumberText(value);
+// A real's text always shows it is a real, so that 10.0 does not read back as the integer 10.
+std::string RealText(std::string text) {
     if (text.find_first_of(".E") == std::string::npos) text += ".0";
     return text;
 }
@@ -89,13 +89,13 @@ void Write(const Variant& value, std::string& out, int depth) {
             out += std::to_string(value.AsLong());
             return;
         case VarKind::Single:
-            out += RealText(static_cast<double>(value.AsSingle()));
+            out += RealText(ToString(value));
             return;
         case VarKind::Double:
-            out += RealText(value.AsDouble());
+            out += RealText(NumberText(value.AsDouble()));
             return;
         case VarKind::Currency:
-            out += RealText(static_cast<double>(value.AsCurrency().scaled) / 10000.0);
+            out += RealText(CurrencyText(value.AsCurrency()));
             return;
         case VarKind::Date:
             out += TimeText(value.AsDate());

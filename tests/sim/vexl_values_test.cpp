@@ -60,6 +60,8 @@ TEST(VexlNotationTest, WritesScalarsSoTheyReadBack) {
     EXPECT_EQ(VexlNotation(Variant(int16_t{-3})), "-3");
     EXPECT_EQ(VexlNotation(Variant(10.0)), "10.0");
     EXPECT_EQ(VexlNotation(Variant(0.25)), "0.25");
+    EXPECT_EQ(VexlNotation(Variant(0.1f)), "0.1");
+    EXPECT_EQ(VexlNotation(Variant(Currency{25000})), "2.5");
     EXPECT_EQ(VexlNotation(Variant("a\"b")), "\"a\"\"b\"");
     EXPECT_EQ(VexlNotation(Variant(false)), "FALSE");
     EXPECT_EQ(VexlNotation(Variant::Null()), "<NULL>");
