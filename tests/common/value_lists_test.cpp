@@ -7,23 +7,17 @@
 #include "common/common_functions.h"
 #include "core/error.h"
 #include "core/object.h"
+#include "support/error_number.h"
 #include "support/fake_message_box.h"
 #include "support/trace_capture.h"
 
 namespace trovane {
 namespace {
 
+using testing::ErrorNumberOf;
+
 using testing::TraceCapture;
 using Lines = std::vector<std::string>;
-
-int32_t ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.Number();
-    }
-    return 0;
-}
 
 // A list of the given elements after a currency header, as the server sends it.
 Variant ListOf(std::vector<Variant> elements) {

@@ -7,18 +7,12 @@
 
 #include "core/error.h"
 #include "core/object.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int ErrorOf(auto&& call) {
-    try {
-        call();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 class Thing final : public Object {
   public:
@@ -40,20 +34,20 @@ TEST(ToIntegers, RoundHalfToEvenOnBothSidesOfZero) {
 
 TEST(ToIntegers, SixteenBitOverflowAtTheRangeBoundaries) {
     EXPECT_EQ(ToInt16(Variant(32767.49)), 32767);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant(32767.5)); }), 6);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant(int32_t{32768})); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant(32767.5)); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant(int32_t{32768})); }), 6);
     EXPECT_EQ(ToInt16(Variant(-32768.5)), -32768);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant(-32768.51)); }), 6);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant(int32_t{-32769})); }), 6);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant("40000")); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant(-32768.51)); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant(int32_t{-32769})); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant("40000")); }), 6);
 }
 
 TEST(ToIntegers, ThirtyTwoBitOverflowAtTheRangeBoundaries) {
     EXPECT_EQ(ToInt32(Variant(2147483647.0)), 2147483647);
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant(2147483647.5)); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant(2147483647.5)); }), 6);
     EXPECT_EQ(ToInt32(Variant(-2147483648.5)), INT32_MIN);
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant(-2147483649.0)); }), 6);
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant(Currency{int64_t{3000000000} * 10000})); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant(-2147483649.0)); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant(Currency{int64_t{3000000000} * 10000})); }), 6);
 }
 
 TEST(ToIntegers, OtherKindsFollowTheClassicRules) {
@@ -64,11 +58,11 @@ TEST(ToIntegers, OtherKindsFollowTheClassicRules) {
     EXPECT_EQ(ToInt16(Variant("&HFFFF")), -1);
     EXPECT_EQ(ToInt32(Variant("&H10000")), 65536);
     EXPECT_EQ(ToInt32(Variant(Currency{25000})), 2);  // 2.5 rounds to even
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant("abc")); }), 13);
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant("")); }), 13);
-    EXPECT_EQ(ErrorOf([] { ToInt16(Variant::Null()); }), 94);
-    EXPECT_EQ(ErrorOf([] { ToInt32(MakeLongArray({1})); }), 13);
-    EXPECT_EQ(ErrorOf([] { ToInt32(Variant::Nothing()); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant("abc")); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant("")); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt16(Variant::Null()); }), 94);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(MakeLongArray({1})); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToInt32(Variant::Nothing()); }), 13);
 }
 
 TEST(ToText, IntegersHaveNoLeadingBlank) {
@@ -99,8 +93,8 @@ TEST(ToText, BooleansCurrencyEmptyAndNull) {
     EXPECT_EQ(ToString(Variant(Currency{0})), "0");
     EXPECT_EQ(ToString(Variant(Currency{INT64_MIN})), "-922337203685477.5808");
     EXPECT_EQ(ToString(Variant()), "");
-    EXPECT_EQ(ErrorOf([] { ToString(Variant::Null()); }), 94);
-    EXPECT_EQ(ErrorOf([] { ToString(Variant(ObjectRef(std::make_shared<Thing>()))); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToString(Variant::Null()); }), 94);
+    EXPECT_EQ(ErrorNumberOf([] { ToString(Variant(ObjectRef(std::make_shared<Thing>()))); }), 13);
 }
 
 TEST(ToBoolean, WordsInAnyCaseNumbersAndNumericText) {
@@ -113,9 +107,9 @@ TEST(ToBoolean, WordsInAnyCaseNumbersAndNumericText) {
     EXPECT_FALSE(ToBool(Variant(0.0)));
     EXPECT_TRUE(ToBool(Variant(int16_t{-1})));
     EXPECT_FALSE(ToBool(Variant()));
-    EXPECT_EQ(ErrorOf([] { ToBool(Variant("yes")); }), 13);
-    EXPECT_EQ(ErrorOf([] { ToBool(Variant("")); }), 13);
-    EXPECT_EQ(ErrorOf([] { ToBool(Variant::Null()); }), 94);
+    EXPECT_EQ(ErrorNumberOf([] { ToBool(Variant("yes")); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToBool(Variant("")); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToBool(Variant::Null()); }), 94);
 }
 
 TEST(Numeric, TextThatReadsAsANumber) {
@@ -124,7 +118,7 @@ TEST(Numeric, TextThatReadsAsANumber) {
     for (const char* text : {"", " ", "1,5", "abc", "1e", "--1", "1.2.3", ".", "&H", "&HG", "1 2", "-"})
         EXPECT_FALSE(IsNumeric(std::string_view(text))) << text;
     EXPECT_DOUBLE_EQ(ParseNumber(" -1.5 "), -1.5);
-    EXPECT_EQ(ErrorOf([] { ParseNumber("1,5"); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ParseNumber("1,5"); }), 13);
 }
 
 TEST(Numeric, VariantKinds) {
@@ -146,15 +140,15 @@ TEST(Dates, PartsMakeDayCountsFromTheEpoch) {
 }
 
 TEST(Dates, InvalidPartsAreAnInvalidCall) {
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 2, 29); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 13, 1); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 4, 31); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 1, 0); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 1, 1, 24); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 1, 1, 0, 60); }), 5);
-    EXPECT_EQ(ErrorOf([] { MakeDate(2023, 1, 1, 0, 0, -1); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 2, 29); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 13, 1); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 4, 31); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 1, 0); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 1, 1, 24); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 1, 1, 0, 60); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(2023, 1, 1, 0, 0, -1); }), 5);
     EXPECT_EQ(MakeDate(2024, 2, 29).serial, MakeDate(2024, 3, 1).serial - 1);
-    EXPECT_EQ(ErrorOf([] { MakeDate(1900, 2, 29); }), 5);
+    EXPECT_EQ(ErrorNumberOf([] { MakeDate(1900, 2, 29); }), 5);
 }
 
 TEST(Dates, TextFormLeavesOutAMidnightTimeAndDayZero) {
@@ -173,7 +167,7 @@ TEST(Dates, PartsRoundTripThroughTheSerial) {
     EXPECT_EQ(parts.hour, 23);
     EXPECT_EQ(parts.minute, 59);
     EXPECT_EQ(parts.second, 59);
-    EXPECT_EQ(ErrorOf([] { ToDate(Variant("2024-01-01")); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { ToDate(Variant("2024-01-01")); }), 13);
 }
 
 }  // namespace

@@ -3,18 +3,12 @@
 #include "core/bool16.h"
 #include "core/checked_int.h"
 #include "core/error.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int ErrorOf(auto&& call) {
-    try {
-        call();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 TEST(Bool16, TrueHasEveryBitSet) {
     EXPECT_EQ(kTrue16.Bits(), -1);
@@ -37,29 +31,29 @@ TEST(Bool16, CombinesBitwiseLikeTheClassicRuntime) {
 TEST(CheckedCounters, SixteenBitCounterStopsAt32767) {
     Counter16 counter(32766);
     EXPECT_EQ(++counter, 32767);
-    EXPECT_EQ(ErrorOf([&] { ++counter; }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { ++counter; }), 6);
     EXPECT_EQ(counter.Value(), 32767);
     Counter16 low(-32768);
-    EXPECT_EQ(ErrorOf([&] { --low; }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { --low; }), 6);
     Counter16 stepped(32760);
-    EXPECT_EQ(ErrorOf([&] { stepped += 8; }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { stepped += 8; }), 6);
     EXPECT_EQ(stepped.Value(), 32760);
 }
 
 TEST(CheckedCounters, ThirtyTwoBitCounterStopsAt2147483647) {
     Counter32 counter(2147483646);
     EXPECT_EQ(++counter, 2147483647);
-    EXPECT_EQ(ErrorOf([&] { ++counter; }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { ++counter; }), 6);
     EXPECT_EQ(counter.Value(), 2147483647);
 }
 
 TEST(CheckedArithmetic, AddSubtractAndNarrowRaiseOverflow) {
     EXPECT_EQ(CheckedAdd<int16_t>(32765, 2), 32767);
-    EXPECT_EQ(ErrorOf([] { CheckedAdd<int16_t>(32767, 2); }), 6);
-    EXPECT_EQ(ErrorOf([] { CheckedSubtract<int32_t>(INT32_MIN, 1); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { CheckedAdd<int16_t>(32767, 2); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { CheckedSubtract<int32_t>(INT32_MIN, 1); }), 6);
     EXPECT_EQ(CheckedNarrow<int16_t>(int32_t{-32768}), -32768);
-    EXPECT_EQ(ErrorOf([] { CheckedNarrow<int16_t>(int32_t{32768}); }), 6);
-    EXPECT_EQ(ErrorOf([] { CheckedNarrow<int32_t>(int64_t{2147483648}); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { CheckedNarrow<int16_t>(int32_t{32768}); }), 6);
+    EXPECT_EQ(ErrorNumberOf([] { CheckedNarrow<int32_t>(int64_t{2147483648}); }), 6);
 }
 
 }  // namespace

@@ -3,23 +3,17 @@
 #include <gtest/gtest.h>
 
 #include "core/error.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int ErrorOf(auto&& call) {
-    try {
-        call();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 TEST(KeyedCollection, KeysIgnoreCaseAndADuplicateRaises457) {
     KeyedCollection collection;
     collection.Add(Variant("first"), "ID12");
-    EXPECT_EQ(ErrorOf([&] { collection.Add(Variant("second"), "id12"); }), 457);
+    EXPECT_EQ(ErrorNumberOf([&] { collection.Add(Variant("second"), "id12"); }), 457);
     EXPECT_EQ(collection.Count(), 1);
     ASSERT_NE(collection.Find("Id12"), nullptr);
     EXPECT_EQ(*collection.Find("Id12"), Variant("first"));
@@ -32,17 +26,17 @@ TEST(KeyedCollection, ItemsKeepInsertionOrderWithOneBasedPositions) {
     collection.Add(Variant(int32_t{2}));
     collection.Add(Variant(int32_t{3}), "c");
     EXPECT_EQ(collection.Item(2), Variant(int32_t{2}));
-    EXPECT_EQ(ErrorOf([&] { collection.Item(0); }), 9);
-    EXPECT_EQ(ErrorOf([&] { collection.Item(4); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { collection.Item(0); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { collection.Item(4); }), 9);
     collection.Remove("A");
     EXPECT_EQ(collection.Item(1), Variant(int32_t{2}));
-    EXPECT_EQ(ErrorOf([&] { collection.Remove("a"); }), 5);
+    EXPECT_EQ(ErrorNumberOf([&] { collection.Remove("a"); }), 5);
 }
 
 TEST(KeyedCollection, AnEmptyKeyIsAKeyLikeAnyOther) {
     KeyedCollection collection;
     collection.Add(Variant("x"), "");
-    EXPECT_EQ(ErrorOf([&] { collection.Add(Variant("y"), ""); }), 457);
+    EXPECT_EQ(ErrorNumberOf([&] { collection.Add(Variant("y"), ""); }), 457);
 }
 
 }  // namespace

@@ -6,18 +6,12 @@
 
 #include "core/error.h"
 #include "core/object.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int ErrorOf(auto&& call) {
-    try {
-        call();
-    } catch (const Error& e) {
-        return e.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 class Thing final : public Object {
   public:
@@ -60,8 +54,8 @@ TEST(Variant, CopyingCopiesArraysDeeplyButSharesObjects) {
 }
 
 TEST(Variant, RawAccessToTheWrongKindIsATypeMismatch) {
-    EXPECT_EQ(ErrorOf([] { (void)Variant("1").AsLong(); }), 13);
-    EXPECT_EQ(ErrorOf([] { (void)Variant(1).AsArray(); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { (void)Variant("1").AsLong(); }), 13);
+    EXPECT_EQ(ErrorNumberOf([] { (void)Variant(1).AsArray(); }), 13);
 }
 
 TEST(VariantArray, BoundsKeepTheLowerBound) {
@@ -69,11 +63,11 @@ TEST(VariantArray, BoundsKeepTheLowerBound) {
     EXPECT_EQ(a.AsArray().LowerBound(), 1);
     EXPECT_EQ(a.AsArray().UpperBound(), 2);
     EXPECT_EQ(a.AsArray().At(1), Variant("x"));
-    EXPECT_EQ(ErrorOf([&] { (void)a.AsArray().At(0); }), 9);
-    EXPECT_EQ(ErrorOf([&] { (void)a.AsArray().At(3); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { (void)a.AsArray().At(0); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { (void)a.AsArray().At(3); }), 9);
     const VariantArray empty(ElementKind::Variant, 0, size_t{0});
     EXPECT_EQ(empty.UpperBound(), -1);
-    EXPECT_EQ(ErrorOf([&] { (void)empty.At(0); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { (void)empty.At(0); }), 9);
 }
 
 TEST(VariantArray, ElementsAreCoercedToTheElementKind) {
@@ -82,11 +76,11 @@ TEST(VariantArray, ElementsAreCoercedToTheElementKind) {
     longs.AsArray().Set(1, 2.5);
     EXPECT_EQ(longs.AsArray().At(0), Variant(int32_t{12}));
     EXPECT_EQ(longs.AsArray().At(1), Variant(int32_t{2}));
-    EXPECT_EQ(ErrorOf([&] { longs.AsArray().Set(0, "x"); }), 13);
+    EXPECT_EQ(ErrorNumberOf([&] { longs.AsArray().Set(0, "x"); }), 13);
     EXPECT_EQ(longs.AsArray().At(0), Variant(int32_t{12}));  // unchanged by the failed store
 
     Variant integers(VariantArray(ElementKind::Integer, 0, 1));
-    EXPECT_EQ(ErrorOf([&] { integers.AsArray().Set(0, 40000); }), 6);
+    EXPECT_EQ(ErrorNumberOf([&] { integers.AsArray().Set(0, 40000); }), 6);
 
     Variant strings = MakeStringArray({""});
     strings.AsArray().Set(0, 5);
@@ -104,7 +98,7 @@ TEST(VariantArray, ResizeKeepsContentsAndFillsWithTheKindsDefault) {
     EXPECT_EQ(strings.AsArray().At(3), Variant(""));
     strings.AsArray().ResizePreserve(0);  // erased: upper bound below the lower bound
     EXPECT_EQ(strings.AsArray().Size(), 0u);
-    EXPECT_EQ(ErrorOf([&] { strings.AsArray().ResizePreserve(-1); }), 9);
+    EXPECT_EQ(ErrorNumberOf([&] { strings.AsArray().ResizePreserve(-1); }), 9);
     Variant variants = MakeVariantArray({});
     variants.AsArray().Append("x");
     EXPECT_EQ(variants.AsArray().UpperBound(), 0);

@@ -6,18 +6,12 @@
 
 #include "core/conversions.h"
 #include "core/error.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int32_t ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 // A container that answers the command pair the way a host form does: the status goes back
 // through the second argument, and the command argument may be rewritten too.

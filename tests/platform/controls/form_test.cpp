@@ -9,18 +9,12 @@
 #include "core/error.h"
 #include "platform/controls/controls.h"
 #include "platform/late_bound.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int32_t ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 class FormTest : public ::testing::Test {
   protected:

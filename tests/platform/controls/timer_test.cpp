@@ -5,18 +5,12 @@
 #include <functional>
 
 #include "core/error.h"
+#include "support/error_number.h"
 
 namespace trovane {
 namespace {
 
-int32_t ErrorNumberOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.Number();
-    }
-    return 0;
-}
+using testing::ErrorNumberOf;
 
 TEST(TimerTest, TickRaisesTimerOnlyWhileEnabledWithAnInterval) {
     Timer timer("Timer1");
