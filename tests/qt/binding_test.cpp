@@ -1,0 +1,241 @@
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTest>
+
+#include "platform/controls/controls.h"
+#include "qt/form_view.h"
+#include "support/qt_application.h"
+
+namespace trovane::qt {
+namespace {
+
+class BindingTest : public ::testing::Test {
+  protected:
+    BindingTest() {
+        trovane::testing::TestApplication();
+        form->Move(0, 0, 6000, 4500);
+    }
+    // The view is made on demand, so a test can set the model up first or afterwards.
+    FormView& View() {
+        if (!view) {
+            view = std::make_unique<FormView>(form, TwipsScale{15, 15});
+            view->show();
+        }
+        return *view;
+    }
+    template <typename W>
+    W* WidgetOf(const char* name) {
+        return qobject_cast<W*>(View().WidgetOf(name));
+    }
+    // A check box or radio button reacts to clicks on its indicator (and its text, when it has one).
+    static void ClickIndicator(QWidget* button) {
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(button->height() / 2, button->height() / 2));
+    }
+
+    std::shared_ptr<Form> form = std::make_shared<Form>("frmTest");
+    std::unique_ptr<FormView> view;
+};
+
+TEST_F(BindingTest, GeometryInTwipsIsScaledToPixels) {
+    form->Add<CommandButton>("btnOK").Move(150, 300, 1200, 375);
+    auto* button = WidgetOf<QPushButton>("btnOK");
+    ASSERT_NE(button, nullptr);
+    EXPECT_EQ(button->geometry(), QRect(10, 20, 80, 25));
+    EXPECT_EQ(View().size(), QSize(400, 300));
+    form->Get<CommandButton>("btnOK").SetLeft(1500);
+    EXPECT_EQ(button->x(), 100);
+}
+
+TEST_F(BindingTest, CaptionEnabledAndVisibleFollowTheModel) {
+    auto& button = form->Add<CommandButton>("btnOK");
+    auto* widget = WidgetOf<QPushButton>("btnOK");
+    button.SetCaption("&Apply");
+    button.SetEnabled(false);
+    EXPECT_EQ(widget->text(), "&Apply");
+    EXPECT_FALSE(widget->isEnabled());
+    button.SetVisible(false);
+    EXPECT_TRUE(widget->isHidden());
+}
+
+TEST_F(BindingTest, ButtonClickRaisesTheModelsClick) {
+    auto& button = form->Add<CommandButton>("btnOK");
+    button.Move(0, 0, 1200, 375);
+    int clicks = 0;
+    button.onClick.Connect([&] { ++clicks; });
+    QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(BindingTest, GreyCheckBoxShowsPartlyChecked) {
+    auto& box = form->Add<CheckBox>("Check1");
+    box.SetValue(CheckBox::Grayed);
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::PartiallyChecked);
+    box.SetValue(CheckBox::Checked);
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Checked);
+}
+
+// Qt's own tristate cycle would go from partly checked to checked to unchecked; the widget shows
+// what the model's click made of it instead, one click at a time.
+TEST_F(BindingTest, ClickingAGreyCheckBoxShowsWhatTheModelDecides) {
+    auto& box = form->Add<CheckBox>("Check1");
+    box.Move(0, 0, 1500, 300);
+    box.SetValue(CheckBox::Grayed);
+    int clicks = 0;
+    box.onClick.Connect([&] { ++clicks; });
+    ClickIndicator(WidgetOf<QCheckBox>("Check1"));
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(box.Value(), CheckBox::Checked);
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Checked);
+    ClickIndicator(WidgetOf<QCheckBox>("Check1"));
+    EXPECT_EQ(box.Value(), CheckBox::Unchecked);
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
+}
+
+TEST_F(BindingTest, AHandlerThatSetsTheCheckBoxBackWins) {
+    auto& box = form->Add<CheckBox>("Check1");
+    box.Move(0, 0, 1500, 300);
+    box.onClick.Connect([&] { box.SetValue(CheckBox::Unchecked); });
+    ClickIndicator(WidgetOf<QCheckBox>("Check1"));
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
+}
+
+TEST_F(BindingTest, OptionButtonsOfOneFrameFormOneGroup) {
+    auto& frame = form->Add<Frame>("Frame1");
+    frame.Move(0, 0, 3000, 2000);
+    auto& first = form->Add<OptionButton>("Opt_Station");
+    auto& second = form->Add<OptionButton>("Opt_NCC");
+    first.SetContainer(&frame);
+    second.SetContainer(&frame);
+    first.Move(150, 300, 1500, 300);
+    second.Move(150, 750, 1500, 300);
+    first.SetValue(true);
+    ClickIndicator(WidgetOf<QRadioButton>("Opt_NCC"));
+    EXPECT_TRUE(second.Value());
+    EXPECT_FALSE(first.Value());
+    EXPECT_FALSE(WidgetOf<QRadioButton>("Opt_Station")->isChecked());
+    EXPECT_TRUE(WidgetOf<QRadioButton>("Opt_NCC")->isChecked());
+    // Placed in the frame, the buttons are inside the frame's group box.
+    EXPECT_EQ(WidgetOf<QRadioButton>("Opt_NCC")->parentWidget(), View().WidgetOf("Frame1"));
+}
+
+TEST_F(BindingTest, TypedCharactersGoThroughKeyPressAndMayBeDiscarded) {
+    auto& text = form->Add<TextBox>("txtOpCntLimit");
+    text.Move(0, 0, 1500, 300);
+    // Digits only, as a numeric field would do.
+    text.onKeyPress.Connect([](int16_t& character) {
+        if (character != 8 && (character < '0' || character > '9')) character = 0;
+    });
+    auto* edit = WidgetOf<QLineEdit>("txtOpCntLimit");
+    edit->setFocus();
+    QTest::keyClicks(edit, "1x2");
+    EXPECT_EQ(text.Text(), "12");
+    EXPECT_EQ(edit->text(), "12");
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    EXPECT_EQ(text.Text(), "1");
+    EXPECT_EQ(edit->text(), "1");
+}
+
+TEST_F(BindingTest, KeysArriveWithClassicCodesAndShiftState) {
+    auto& text = form->Add<TextBox>("Text1");
+    text.Move(0, 0, 1500, 300);
+    int16_t lastKey = 0;
+    int16_t lastShift = 0;
+    text.onKeyDown.Connect([&](int16_t& key, int16_t shift) {
+        lastKey = key;
+        lastShift = shift;
+    });
+    QTest::keyClick(WidgetOf<QLineEdit>("Text1"), Qt::Key_Home, Qt::ShiftModifier);
+    EXPECT_EQ(lastKey, 36);
+    EXPECT_EQ(lastShift, 1);
+    QTest::keyClick(WidgetOf<QLineEdit>("Text1"), Qt::Key_F2);
+    EXPECT_EQ(lastKey, 113);
+}
+
+TEST_F(BindingTest, ProgramTextShowsWithoutRaisingInput) {
+    auto& text = form->Add<TextBox>("Text1");
+    int changes = 0;
+    text.onChange.Connect([&] { ++changes; });
+    text.SetText("Hold");
+    EXPECT_EQ(WidgetOf<QLineEdit>("Text1")->text(), "Hold");
+    EXPECT_EQ(changes, 1);  // the model's own Change, not a second one from the widget
+}
+
+TEST_F(BindingTest, ComboBoxChoiceGoesToTheModel) {
+    auto& combo = form->Add<ComboBox>("cboAttr");
+    combo.Move(0, 0, 2000, 300);
+    combo.SetListStyle(ComboBox::Style::DropDownList);
+    combo.AddItem("Low");
+    combo.AddItem("High");
+    int clicks = 0;
+    combo.onClick.Connect([&] { ++clicks; });
+    auto* widget = WidgetOf<QComboBox>("cboAttr");
+    ASSERT_EQ(widget->count(), 2);
+    widget->activated(1);
+    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(clicks, 1);
+    combo.SetListIndex(0);
+    EXPECT_EQ(widget->currentIndex(), 0);
+}
+
+TEST_F(BindingTest, TabClicksSelectTheModelsTab) {
+    auto& tabs = form->Add<TabStrip>("TabStrip1");
+    tabs.Move(0, 0, 4000, 400);
+    tabs.AddTab("General");
+    tabs.AddTab("Details");
+    auto* bar = WidgetOf<QTabBar>("TabStrip1");
+    ASSERT_EQ(bar->count(), 2);
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
+    EXPECT_EQ(tabs.SelectedTab(), 2);
+    EXPECT_EQ(bar->currentIndex(), 1);
+}
+
+TEST_F(BindingTest, ControlsAddedLaterGetWidgets) {
+    View();
+    form->Add<Label>("lblOverFlow").SetCaption("Operation counter limit reached");
+    auto* label = WidgetOf<QLabel>("lblOverFlow");
+    ASSERT_NE(label, nullptr);
+    EXPECT_EQ(label->text(), "Operation counter limit reached");
+    form->Remove(form->Get<Label>("lblOverFlow"));
+    EXPECT_EQ(View().WidgetOf("lblOverFlow"), nullptr);
+}
+
+TEST_F(BindingTest, TimerTicksTheModelWhileItRuns) {
+    auto& timer = form->Add<Timer>("Timer1");
+    View();
+    int ticks = 0;
+    timer.onTimer.Connect([&] { ++ticks; });
+    timer.SetInterval(5);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return ticks >= 2; }, 2000));
+    timer.SetEnabled(false);
+    const int stopped = ticks;
+    QTest::qWait(30);
+    EXPECT_EQ(ticks, stopped);
+}
+
+TEST_F(BindingTest, AFailingHandlerDoesNotEscapeIntoQt) {
+    auto& button = form->Add<CommandButton>("btnOK");
+    button.Move(0, 0, 1200, 375);
+    button.onClick.Connect([] { throw std::runtime_error("panel failure"); });
+    EXPECT_NO_THROW(QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton));
+}
+
+TEST_F(BindingTest, AWindowFormFollowsShowAndUnload) {
+    View().hide();
+    form->Show();
+    EXPECT_TRUE(View().isVisible());
+    form->Unload();
+    EXPECT_FALSE(View().isVisible());
+}
+
+}  // namespace
+}  // namespace trovane::qt

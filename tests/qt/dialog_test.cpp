@@ -1,0 +1,213 @@
+// The control dialog driven through its real widgets, against the in-process demo server.
+
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QDir>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "alarms/alarms.h"
+#include "blocking/blocking.h"
+#include "core/conversions.h"
+#include "dialog_host.h"
+#include "dialog_window.h"
+#include "screenshot.h"
+#include "support/qt_application.h"
+
+namespace trovane::dialog {
+namespace {
+
+// Rows of the demo object's alarm list, in server order.
+constexpr int kBreakerTripRow = 1;  // ABC:11, persisting and unacknowledged
+
+class DialogTest : public ::testing::Test {
+  protected:
+    DialogTest() { trovane::testing::TestApplication(); }
+
+    void Open(UserRights rights = UserRights::All()) {
+        DialogOptions options;
+        options.rights = rights;
+        host = std::make_unique<DialogHost>(options, platform.services);
+        window = std::make_unique<DialogWindow>(*host, platform);
+        window->Start();
+        window->show();
+        window->Settle();
+    }
+
+    QWidget* Widget(const char* form, const char* control) const {
+        qt::FormView* view = window->ViewOf(form);
+        return view ? view->WidgetOf(control) : nullptr;
+    }
+    QTreeWidget* AlarmList() const { return qobject_cast<QTreeWidget*>(Widget("Alarms", "ListView1")); }
+    QCheckBox* BlockingBox(const char* name) const {
+        return qobject_cast<QCheckBox*>(Widget("Blocking", name));
+    }
+    QPushButton* Button(const char* form, const char* name) const {
+        return qobject_cast<QPushButton*>(Widget(form, name));
+    }
+    Alarms& AlarmPanel() const { return static_cast<Alarms&>(*host->Panels().at(0).form); }
+    Blocking& BlockingPanel() const { return static_cast<Blocking&>(*host->Panels().at(1).form); }
+
+    void ClickRow(int row) {
+        QTreeWidget* list = AlarmList();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
+                          list->visualItemRect(list->topLevelItem(row)).center());
+    }
+    static void Click(QWidget* widget) {
+        ASSERT_NE(widget, nullptr);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->width() / 2, widget->height() / 2));
+    }
+    static void Tick(QCheckBox* box) {
+        ASSERT_NE(box, nullptr);
+        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->height() / 2, box->height() / 2));
+    }
+
+    Variant Ask(const std::string& command) {
+        int32_t status = 0;
+        Variant result = host->Server().Execute(command, status);
+        EXPECT_EQ(status, 0) << command;
+        return result;
+    }
+    // The blocking value of one kind (1 update ... 6 action) of one object, as the server holds it.
+    int32_t ServerBlocking(int32_t index, int32_t kind) {
+        const Variant states = Ask("#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\"," +
+                                   std::to_string(index) + "), Vector(), \"APPLY_TO_SELECTED\")");
+        return ToInt32(states.AsArray().At(states.AsArray().LowerBound() + kind - 1));
+    }
+    // The alarm state keyword of one signal of ABC.
+    std::string ServerAlarmState(int32_t index) {
+        const Variant list = Ask(host->Container().AlarmListCommand());
+        const Variant combo = host->Functions().GetListItem(list, "COMBO_LIST");
+        for (const Variant& element : combo.AsArray().Elements()) {
+            const VariantArray& fields = element.AsArray();
+            if (ToInt32(fields.At(fields.LowerBound() + 1)) == index)
+                return ToString(fields.At(fields.LowerBound() + 3));
+        }
+        return "";
+    }
+
+    qt::QtPlatform platform = qt::MakeQtPlatform();
+    std::unique_ptr<DialogHost> host;
+    std::unique_ptr<DialogWindow> window;
+};
+
+TEST_F(DialogTest, OpensWithTheServersAlarmsAndBlockings) {
+    Open();
+    QTreeWidget* list = AlarmList();
+    ASSERT_NE(list, nullptr);
+    ASSERT_EQ(list->topLevelItemCount(), 10);
+    EXPECT_EQ(list->headerItem()->text(1), "Object text");
+    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(1), "Breaker trip");
+    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(2), "Persisting");
+    EXPECT_EQ(BlockingBox("Check1")->text(), "Update");
+    EXPECT_EQ(BlockingBox("Check3")->checkState(), Qt::PartiallyChecked);  // one signal blocks alarms
+    EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
+    EXPECT_TRUE(Button("Alarms", "btnAck")->isEnabled());
+    EXPECT_TRUE(window->windowTitle().startsWith("Control dialog"));
+}
+
+TEST_F(DialogTest, SelectingAnAlarmRowSwitchesTheBlockingPanelToTheSignal) {
+    Open();
+    EXPECT_FALSE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
+    ClickRow(kBreakerTripRow);
+    EXPECT_EQ(BlockingPanel().logicalName, "ABC");
+    EXPECT_EQ(BlockingPanel().baseIndex, 11);
+    EXPECT_TRUE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
+    EXPECT_TRUE(Button("Alarms", "btnAckSelected")->isEnabled());
+    EXPECT_TRUE(AlarmList()->topLevelItem(kBreakerTripRow)->isSelected());
+}
+
+TEST_F(DialogTest, AcknowledgeSelectedReachesTheServerAndTheListFollows) {
+    Open();
+    ClickRow(kBreakerTripRow);
+    Click(Button("Alarms", "btnAckSelected"));
+    EXPECT_EQ(ServerAlarmState(11), "ACTIVE_ACKNOWLEDGED");
+    window->Settle();
+    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
+    EXPECT_FALSE(Button("Alarms", "btnAckSelected")->isEnabled());
+}
+
+TEST_F(DialogTest, AcknowledgeAllLeavesNothingToAcknowledge) {
+    Open();
+    Click(Button("Alarms", "btnAck"));
+    window->Settle();
+    EXPECT_EQ(ServerAlarmState(11), "ACTIVE_ACKNOWLEDGED");
+    EXPECT_FALSE(Button("Alarms", "btnAck")->isEnabled());
+}
+
+TEST_F(DialogTest, TickingABlockingAndApplyWritesItForTheWholeObject) {
+    Open();
+    Tick(BlockingBox("Check1"));
+    EXPECT_TRUE(Button("Blocking", "btnOK")->isEnabled());
+    EXPECT_FALSE(Button("Blocking", "btnRefresh")->isEnabled());
+    Click(Button("Blocking", "btnOK"));
+    EXPECT_EQ(ServerBlocking(10, 1), 1);
+    EXPECT_EQ(ServerBlocking(12, 1), 1);
+    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Checked);
+    EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
+    EXPECT_TRUE(Button("Blocking", "btnRefresh")->isEnabled());
+}
+
+TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
+    Open();
+    ClickRow(kBreakerTripRow);
+    Tick(BlockingBox("chkBlockSelectedSignal"));
+    ASSERT_EQ(BlockingBox("chkBlockSelectedSignal")->checkState(), Qt::Checked);
+    Tick(BlockingBox("Check1"));
+    Click(Button("Blocking", "btnOK"));
+    EXPECT_EQ(ServerBlocking(11, 1), 1);
+    EXPECT_EQ(ServerBlocking(12, 1), 0);
+    EXPECT_EQ(ServerBlocking(10, 1), 0);
+    // The operator's OK also lets the frozen alarm list follow the server again.
+    EXPECT_FALSE(AlarmPanel().DisableUpdate);
+}
+
+TEST_F(DialogTest, CancelRestoresTheShownStateAndWritesNothing) {
+    Open();
+    Tick(BlockingBox("Check1"));
+    ASSERT_EQ(BlockingBox("Check1")->checkState(), Qt::Checked);
+    Click(Button("Blocking", "btnCancel"));
+    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Unchecked);
+    EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
+    EXPECT_FALSE(Button("Blocking", "btnCancel")->isEnabled());
+    EXPECT_EQ(ServerBlocking(10, 1), 0);
+}
+
+TEST_F(DialogTest, WithoutRightsNothingCanBeChanged) {
+    Open(UserRights::None());
+    EXPECT_FALSE(BlockingBox("Check1")->isEnabled());
+    EXPECT_FALSE(Button("Alarms", "btnAck")->isEnabled());
+    Tick(BlockingBox("Check1"));
+    EXPECT_EQ(ServerBlocking(10, 1), 0);
+    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Unchecked);
+}
+
+TEST_F(DialogTest, AClickedRowKeepsTheListStillUntilRefresh) {
+    Open();
+    ClickRow(kBreakerTripRow);
+    Ask("#SET ABC:PAR11=1");
+    window->Settle();
+    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Persisting");
+    Click(Button("Alarms", "btnRefresh"));
+    window->Settle();
+    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
+}
+
+TEST_F(DialogTest, ScreenshotIsAPictureOfTheWholeDialog) {
+    Open();
+    const QString file = QDir::temp().filePath("trovane-dialog-test.png");
+    ASSERT_TRUE(WriteScreenshot(*window, file.toStdString()));
+    const QImage picture(file);
+    EXPECT_EQ(picture.size(), window->size());
+    EXPECT_GT(picture.width(), 300);
+    QFile::remove(file);
+}
+
+}  // namespace
+}  // namespace trovane::dialog
