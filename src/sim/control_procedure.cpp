@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/conversions.h"
+#include "core/error.h"
 #include "sim/attribute_catalog.h"
 #include "sim/procedure_arguments.h"
 #include "sim/server_procedures.h"
@@ -77,6 +78,8 @@ void ApplySubstitution(ProcessDatabase& database, const std::string& name, Proce
     const bool substituted = object.Find("SB")->AsLong() != 0;
     if (!object.substitutable) ThrowWrongArgument("the signal cannot be substituted");
     if (enable) {
+        // Checked first: a refused value must not leave the signal marked as substituted.
+        database.CheckObjectWrite(name, object.index, "OV", ListItem(request, "VALUE"));
         if (!substituted) object.processValue = *object.Find("OV");
         database.Write({name, object.index, "SB"}, int32_t{1});
         database.Write({name, object.index, "OV"}, ListItem(request, "VALUE"));
@@ -86,19 +89,24 @@ void ApplySubstitution(ProcessDatabase& database, const std::string& name, Proce
     }
 }
 
-Variant SetSubstitution(ProcessDatabase& database, const ObjectAddress& address,
-                        std::span<const Variant> args) {
-    const Variant& request = Argument(args, 2);
+void SetSignalSubstitution(ProcessDatabase& database, const ObjectAddress& address, const Variant& request) {
     if (!IsVexlList(request)) ThrowWrongArgument("the substitution must be a LIST");
     // The signal's own name and index, echoed from GET_SUBSTITUTION, say which signal is meant.
     const Variant* signalName = FindVexlListItem(request, "LN");
     const std::string name =
         signalName && signalName->IsString() ? UpperName(signalName->AsString()) : address.name;
     const int32_t index = ToInt32(ListItem(request, "IX"));
+    ApplySubstitution(database, name, database.Object(name, index), request);
+}
+
+Variant SetSubstitution(ProcessDatabase& database, const ObjectAddress& address,
+                        std::span<const Variant> args) {
     try {
-        ApplySubstitution(database, name, database.Object(name, index), request);
+        SetSignalSubstitution(database, address, Argument(args, 2));
     } catch (const VexlStatus& failure) {
         return Failure(failure.what());
+    } catch (const Error& error) {
+        return Failure(error.Description());
     }
     return MakeVexlList({{"STATUS", int32_t{0}}});
 }

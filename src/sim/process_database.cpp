@@ -40,6 +40,19 @@ void CheckValueRange(const ProcessObject& object, const Variant& value) {
         throw VexlStatus(status::kWrongArgument, "OV out of range");
 }
 
+// The value a write would store, after every check a write makes.
+Variant CheckedValue(const ProcessObject& object, const std::string& attribute, const Variant& value) {
+    const AttributeDefinition* definition = FindAttributeDefinition(attribute);
+    const Variant* current = object.Find(attribute);
+    if (!current) ThrowUnknownAttribute(attribute);
+    if (definition && !definition->writable)
+        throw VexlStatus(status::kWrongArgument, "attribute " + attribute + " is read-only");
+    Variant converted = ConvertToAttributeType(WriteType(object, attribute, *current), value);
+    CheckRange(definition, converted);
+    if (attribute == "OV") CheckValueRange(object, converted);
+    return converted;
+}
+
 }  // namespace
 
 int32_t ProcessObject::Type() const {
@@ -166,6 +179,11 @@ void ProcessDatabase::Write(const ItemKey& key, const Variant& value) {
     Publish();
 }
 
+void ProcessDatabase::CheckObjectWrite(const std::string& name, int32_t index, const std::string& attribute,
+                                       const Variant& value) {
+    CheckedValue(Object(name, index), UpperName(attribute), value);
+}
+
 void ProcessDatabase::WriteGroupAttribute(ObjectGroup& group, const std::string& attribute,
                                           const Variant& value) {
     Variant& stored = group.attributes[attribute];
@@ -178,16 +196,8 @@ void ProcessDatabase::WriteGroupAttribute(ObjectGroup& group, const std::string&
 
 void ProcessDatabase::WriteObjectAttribute(ObjectGroup& group, ProcessObject& object,
                                            const std::string& attribute, const Variant& value) {
-    const AttributeDefinition* definition = FindAttributeDefinition(attribute);
-    const Variant* current = object.Find(attribute);
-    if (!current) ThrowUnknownAttribute(attribute);
-    if (definition && !definition->writable)
-        throw VexlStatus(status::kWrongArgument, "attribute " + attribute + " is read-only");
-    Variant converted = ConvertToAttributeType(WriteType(object, attribute, *current), value);
-    CheckRange(definition, converted);
-    if (attribute == "OV") CheckValueRange(object, converted);
-
-    const Variant oldValue = *current;
+    Variant converted = CheckedValue(object, attribute, value);
+    const Variant oldValue = *object.Find(attribute);
     const AlarmEntry alarmBefore = AlarmOf(object);
     if (!Store(group, object, attribute, std::move(converted))) return;
     ApplyCounterRules(group, object, attribute);

@@ -107,6 +107,9 @@ class ProcessDatabase {
     // Attribute access by key; unknown objects and attributes are VexlStatus errors.
     Variant Read(const ItemKey& key);
     void Write(const ItemKey& key, const Variant& value);
+    // Throws what writing `value` to an indexed object's attribute would throw, and changes nothing.
+    void CheckObjectWrite(const std::string& name, int32_t index, const std::string& attribute,
+                          const Variant& value);
 
     // The application's alarm time "AT": when the alarm list last changed.
     Date AlarmTime() const { return alarmTime_; }

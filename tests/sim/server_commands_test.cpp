@@ -197,6 +197,16 @@ TEST_F(ServerCommandsTest, SubstitutionSetsAndReleasesTheValue) {
     EXPECT_EQ(Attribute("ABC", 15, "SB"), 0);
 }
 
+TEST_F(ServerCommandsTest, InvalidSubstituteAnswersStatusMinusOneAndChangesNothing) {
+    const Variant answer = Run(
+        "#return "
+        "do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"N/A\",LOGICAL_NODE=\"N/A\","
+        "DATA_OBJECT=\"N/A\",DATA_ATTRIBUTE=\"N/A\",LN=\"ABC\",IX=11,ENABLED=1,VALUE=5,QUALITY=0))");
+    EXPECT_EQ(Item(answer, "STATUS"), Variant(int32_t{-1}));
+    EXPECT_EQ(Attribute("ABC", 11, "OV"), 1);
+    EXPECT_EQ(Attribute("ABC", 11, "SB"), 0);
+}
+
 TEST_F(ServerCommandsTest, SubstitutingTheBreakerCountsNoOperation) {
     Run("#return do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"E01_CTRL\","
         "LOGICAL_NODE=\"XCBR1\",DATA_OBJECT=\"Pos\",DATA_ATTRIBUTE=\"stVal\",LN=\"ABC\",IX=10,ENABLED=1,"
