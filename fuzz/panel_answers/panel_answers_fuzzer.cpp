@@ -1,0 +1,78 @@
+// Feeds arbitrary server answers to the alarm and blocking panels. The input is Vexl text; its
+// value is what the container's GetAlarms and every command return. Whatever the value, the panels
+// must rebuild, select, acknowledge, refresh and write without crashing; the only failures allowed
+// are the documented runtime errors (a list beyond 32767 rows overflows, a signal listed twice
+// repeats a row key).
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "alarms/alarms.h"
+#include "blocking/blocking.h"
+#include "sim/vexl_interpreter.h"
+#include "support/fake_vexl_environment.h"
+
+namespace {
+
+using trovane::Variant;
+
+std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answer) {
+    auto container = std::make_shared<trovane::DispatchObject>("frmFuzz");
+    const auto constant = [answer](std::span<Variant>) { return answer; };
+    const auto nothing = [](std::span<Variant>) { return Variant(); };
+    container->Method("GetAlarms", constant).Method("RunVexlCmd", constant);
+    container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
+    container->Method("IsAlarmHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
+    container->Method("IsBlockingHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
+    for (const char* member :
+         {"SetCharsetValues", "SetBlockedSignal", "SetSingleBlocking", "RefreshSubscriptions"})
+        container->Method(member, nothing);
+    return container;
+}
+
+void DriveAlarms(const Variant& container) {
+    auto alarms = std::make_shared<trovane::Alarms>();
+    alarms->SetParent(container);
+    alarms->CanSelectSingleBlocking = true;
+    try {
+        alarms->RefreshAlarms();
+        for (int32_t row = 1; row <= alarms->ListView1.ItemCount() && row <= 50; ++row) {
+            alarms->ListView1.ClickItem(row);
+            alarms->btnAckSelected.Click();
+            alarms->RefreshAlarms();
+        }
+        alarms->AcknowledgeAll();
+    } catch (const trovane::Error&) {
+    }
+}
+
+void DriveBlocking(const Variant& container) {
+    auto blocking = std::make_shared<trovane::Blocking>();
+    blocking->SetParent(container);
+    blocking->logicalName = "ABC";
+    blocking->baseIndex = 10;
+    try {
+        blocking->Init();
+        blocking->KindCheckBox(2).Click();
+        blocking->btnCancel.Click();
+        blocking->KindCheckBox(3).Click();
+        blocking->btnOK.Click();
+    } catch (const trovane::Error&) {
+    }
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    trovane::sim::testing::FakeVexlEnvironment environment;
+    trovane::sim::VexlInterpreter interpreter(environment);
+    int32_t status = 0;
+    const Variant answer =
+        interpreter.Execute(std::string(reinterpret_cast<const char*>(data), size), status);
+    const auto container = ContainerAnswering(answer);
+    DriveAlarms(Variant(trovane::ObjectRef(container)));
+    DriveBlocking(Variant(trovane::ObjectRef(container)));
+    return 0;
+}
