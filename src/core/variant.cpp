@@ -30,6 +30,19 @@ Variant& Variant::operator=(const Variant& other) {
     return *this;
 }
 
+Variant::Variant(Variant&& other) noexcept : value_(std::move(other.value_)) { other.value_ = std::monostate{}; }
+
+// The value is taken out of `other` before this one is replaced, so that `other` may even live
+// inside the array this variant is about to drop.
+Variant& Variant::operator=(Variant&& other) noexcept {
+    if (this != &other) {
+        Storage taken = std::move(other.value_);
+        other.value_ = std::monostate{};
+        value_ = std::move(taken);
+    }
+    return *this;
+}
+
 Variant::~Variant() = default;
 
 VarKind Variant::Kind() const {

@@ -71,9 +71,10 @@ public:
     Variant(std::nullptr_t) : value_(ObjectRef{}) {}             // Nothing
 
     Variant(const Variant& other);
-    Variant(Variant&& other) noexcept = default;
+    // A moved-from variant is Empty (never an array without storage), so it can still be read.
+    Variant(Variant&& other) noexcept;
     Variant& operator=(const Variant& other);
-    Variant& operator=(Variant&& other) noexcept = default;
+    Variant& operator=(Variant&& other) noexcept;
     ~Variant();
 
     static Variant Null() { return Variant(NullValue{}); }

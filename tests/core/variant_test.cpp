@@ -53,6 +53,16 @@ TEST(Variant, CopyingCopiesArraysDeeplyButSharesObjects) {
     EXPECT_EQ(a.AsArray().At(1).AsObject(), b.AsArray().At(1).AsObject());
 }
 
+TEST(Variant, MovedFromVariantIsEmpty) {
+    Variant source = MakeVariantArray({1});
+    Variant target = std::move(source);
+    EXPECT_EQ(TypeName(source), "Empty");  // NOLINT(bugprone-use-after-move): the state is defined
+    Variant copy = source;
+    EXPECT_TRUE(copy.IsEmpty());
+    source = std::move(target);
+    EXPECT_EQ(TypeName(source), "Variant()");
+}
+
 TEST(Variant, RawAccessToTheWrongKindIsATypeMismatch) {
     EXPECT_EQ(ErrorNumberOf([] { (void)Variant("1").AsLong(); }), 13);
     EXPECT_EQ(ErrorNumberOf([] { (void)Variant(1).AsArray(); }), 13);
