@@ -197,7 +197,9 @@ void ReadSignalAlarm(const Node& node, ProcessObject& object) {
 
 void ReadSignal(const Node& node, ProcessDatabase& database, const std::string& name) {
     node.RequireObject();
-    ProcessObject& object = database.AddObject(name, node["index"].Int(), node["type"].Int());
+    const int32_t index = node["index"].Int();
+    if (database.FindObject(name, index)) node["index"].Fail("a signal with this index exists already");
+    ProcessObject& object = database.AddObject(name, index, node["type"].Int());
     object.attributes["TX"] = node.TextOr("text", "");
     ReadSignalValue(node, object);
     object.stateTexts =

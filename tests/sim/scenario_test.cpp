@@ -54,6 +54,9 @@ TEST(ScenarioTest, BadScenariosNameThePlaceOfTheMistake) {
             R"({"objects":[{"name":"A","comment":{"author":"a","time":"today","text":""},"signals":[]}]})")
             .find("yyyy-mm-dd"),
         std::string::npos);
+    EXPECT_NE(ErrorOf(R"({"objects":[{"name":"A","signals":[{"index":1,"type":3},{"index":1,"type":9}]}]})")
+                  .find("objects[0].signals[1].index: a signal with this index exists already"),
+              std::string::npos);
     EXPECT_NE(ErrorOf(R"({"objects":[{"name":"A","mainIndex":5,"signals":[]}]})").find("mainIndex"),
               std::string::npos);
     EXPECT_NE(
