@@ -1,5 +1,7 @@
 #include "qt/list_view_binding.h"
 
+#include <cmath>
+
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QTreeWidget>
@@ -66,8 +68,14 @@ void ListViewBinding::ShowColumns() {
     for (int32_t position = 1; position <= list.ColumnCount(); ++position)
         headers << ToQString(list.Column(position).text);
     tree->setHeaderLabels(headers);
+    // Widths are rounded down: rounding each column to the nearest pixel could add up to more than
+    // the list is wide and show a scroll bar the model's layout does not have.
     for (int32_t position = 1; position <= list.ColumnCount(); ++position)
-        tree->setColumnWidth(position - 1, Pixels(list.Column(position).width, true));
+        tree->setColumnWidth(position - 1, WholePixels(list.Column(position).width));
+}
+
+int ListViewBinding::WholePixels(int32_t twips) const {
+    return static_cast<int>(std::floor(static_cast<double>(twips) / Twips(1, true)));
 }
 
 void ListViewBinding::ShowImages() {

@@ -34,6 +34,7 @@ class ListViewBinding final : public ControlBinding {
     ListView& List() const { return static_cast<ListView&>(Model()); }
     void OnListChanged(ListViewChange change, int32_t position);
     void ShowColumns();
+    int WholePixels(int32_t twips) const;
     void ShowImages();
     void ShowRows();
     void ShowRow(QTreeWidgetItem* row, const ListItem& item);

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QImage>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
@@ -197,6 +198,21 @@ TEST_F(DialogTest, AClickedRowKeepsTheListStillUntilRefresh) {
     Click(Button("Alarms", "btnRefresh"));
     window->Settle();
     EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
+}
+
+TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
+    Open();
+    CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
+               {Variant("Command failed")});
+    qt::FormView* error = window->ErrorDialogView();
+    ASSERT_NE(error, nullptr);
+    EXPECT_TRUE(error->isVisible());
+    EXPECT_EQ(error->windowTitle(), "Trovane Error");
+    auto* text = qobject_cast<QLabel*>(error->WidgetOf("Label1"));
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->text(), "Command failed");
+    Click(qobject_cast<QPushButton*>(error->WidgetOf("Command1")));
+    EXPECT_FALSE(error->isVisible());
 }
 
 TEST_F(DialogTest, ScreenshotIsAPictureOfTheWholeDialog) {
