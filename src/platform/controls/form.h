@@ -12,7 +12,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <ranges>
 #include <string_view>
 #include <vector>
 
@@ -36,10 +35,32 @@ class Form : public Widget {
     }
     void Remove(Control& control);  // unloads one control (an array element loaded at run time)
 
-    auto Controls() const {
-        return controls_ |
-               std::views::transform([](const std::shared_ptr<Control>& c) -> Control& { return *c; });
-    }
+    // The controls in order, as references (a plain range: the ranges library's views do not build
+    // with every toolchain the project supports).
+    class ControlRange {
+    public:
+        using Owned = std::vector<std::shared_ptr<Control>>;
+        class Iterator {
+        public:
+            explicit Iterator(Owned::const_iterator at) : at_(at) {}
+            Control& operator*() const { return **at_; }
+            Iterator& operator++() {
+                ++at_;
+                return *this;
+            }
+            bool operator!=(const Iterator& other) const { return at_ != other.at_; }
+
+        private:
+            Owned::const_iterator at_;
+        };
+        explicit ControlRange(const Owned& owned) : owned_(owned) {}
+        Iterator begin() const { return Iterator(owned_.begin()); }
+        Iterator end() const { return Iterator(owned_.end()); }
+
+    private:
+        const Owned& owned_;
+    };
+    ControlRange Controls() const { return ControlRange(controls_); }
     int32_t ControlCount() const { return static_cast<int32_t>(controls_.size()); }
     // The control, or nullptr.
     Control* Find(std::string_view name, int16_t index = -1) const;
