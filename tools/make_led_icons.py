@@ -178,13 +178,16 @@ def cpp_source(data):
 namespace trovane {
 
 namespace {
+// clang-format off
 const uint8_t kFallbackIcon[] = {
 %s
 };
+// clang-format on
 }  // namespace
 
 Picture FallbackLedPicture() {
-    return Picture{"%s", std::vector<uint8_t>(std::begin(kFallbackIcon), std::end(kFallbackIcon))};
+    return Picture{"%s",
+                   std::vector<uint8_t>(std::begin(kFallbackIcon), std::end(kFallbackIcon))};
 }
 
 }  // namespace trovane
