@@ -115,6 +115,9 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
         case QEvent::MouseButtonRelease:
             HandleMouse(event, false);
             break;
+        case QEvent::MouseButtonDblClick:
+            Input([this] { control->DblClick(); });
+            break;
         case QEvent::FocusIn:
             if (!control->HasFocus() && control->AcceptsInput() && control->Visible())
                 Input([this] { control->SetFocus(); });

@@ -1,9 +1,14 @@
 #include "qt/form_view.h"
 
+#include <exception>
+
 #include <QCloseEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 
+#include "platform/controls/command_button.h"
 #include "platform/controls/frame.h"
+#include "platform/trace.h"
 #include "qt/binding_factory.h"
 #include "qt/text.h"
 #include "qt/twips.h"
@@ -97,6 +102,30 @@ void FormView::OnControlChanged(Control& control, ControlProperty property) {
         auto binding = MakeBinding(std::static_pointer_cast<Control>(control.shared_from_this()), scale);
         binding->Attach(AreaFor(control));
         bindings[&control] = std::move(binding);
+    }
+}
+
+void FormView::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if ((enter || event->key() == Qt::Key_Escape) && event->modifiers() == Qt::NoModifier) {
+        PressButton(enter);
+        event->accept();
+        return;
+    }
+    QWidget::keyPressEvent(event);
+}
+
+void FormView::PressButton(bool defaultButton) {
+    for (Control& control : form->Controls()) {
+        auto* button = dynamic_cast<CommandButton*>(&control);
+        if (button && (defaultButton ? button->IsDefault() : button->IsCancel())) {
+            try {
+                button->Click();
+            } catch (const std::exception& failure) {
+                DebugInfo("Qt front end: " + button->Name() + " input failed: " + failure.what());
+            }
+            return;
+        }
     }
 }
 

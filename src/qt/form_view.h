@@ -30,6 +30,8 @@ class FormView final : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    // Enter and Escape that no control took press the form's default and cancel buttons.
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void Bind(Control& control);
@@ -38,6 +40,7 @@ class FormView final : public QWidget {
     void OnControlChanged(Control& control, ControlProperty property);
     void OnFormChanged(ControlProperty property);
     void ShowSize();
+    void PressButton(bool defaultButton);
     int32_t MeasureText(std::string_view text) const;
 
     std::shared_ptr<Form> form;

@@ -229,6 +229,30 @@ TEST_F(BindingTest, AFailingHandlerDoesNotEscapeIntoQt) {
     EXPECT_NO_THROW(QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton));
 }
 
+TEST_F(BindingTest, EnterAndEscapePressTheDefaultAndCancelButtons) {
+    auto& ok = form->Add<CommandButton>("btnOK");
+    auto& cancel = form->Add<CommandButton>("btnCancel");
+    ok.SetDefault(true);
+    cancel.SetCancel(true);
+    int oks = 0;
+    int cancels = 0;
+    ok.onClick.Connect([&] { ++oks; });
+    cancel.onClick.Connect([&] { ++cancels; });
+    QTest::keyClick(&View(), Qt::Key_Return);
+    QTest::keyClick(&View(), Qt::Key_Escape);
+    EXPECT_EQ(oks, 1);
+    EXPECT_EQ(cancels, 1);
+}
+
+TEST_F(BindingTest, DoubleClickReachesTheModel) {
+    auto& label = form->Add<Label>("lblObject");
+    label.Move(0, 0, 1500, 300);
+    int doubleClicks = 0;
+    label.onDblClick.Connect([&] { ++doubleClicks; });
+    QTest::mouseDClick(WidgetOf<QLabel>("lblObject"), Qt::LeftButton);
+    EXPECT_EQ(doubleClicks, 1);
+}
+
 TEST_F(BindingTest, AWindowFormFollowsShowAndUnload) {
     View().hide();
     form->Show();
