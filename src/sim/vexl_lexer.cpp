@@ -146,8 +146,11 @@ class Lexer {
     }
 
     static Variant RealValue(std::string_view digits) {
-        const double value = std::strtod(std::string(digits).c_str(), nullptr);
-        if (!std::isfinite(value)) SyntaxError("number out of range");
+        // from_chars, not strtod: a GUI host may switch the C locale's decimal separator.
+        double value = 0;
+        const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+        if (error != std::errc{} || end != digits.data() + digits.size() || !std::isfinite(value))
+            SyntaxError("number out of range");
         return Variant(value);
     }
 
