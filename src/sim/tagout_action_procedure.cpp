@@ -36,7 +36,8 @@ Variant TagoutActionProcedure(ProcessDatabase& database, std::span<const Variant
     if (!database.FindObject(address.name, address.index)) return tagout_error::kUnknownObject;
     if (method == "CONTROL_BLOCK")
         database.Write({address.name, address.index, "CB"}, int32_t{apply ? 1 : 0});
-    const std::string value = std::string(apply ? "X" : "-") + (device.empty() ? "" : " " + device);
+    std::string value = apply ? "X" : "-";
+    if (!device.empty()) value.append(" ").append(device);
     database.TagoutEvents().push_back({method, address.name, address.index, value});
     return kDone;
 }
