@@ -6,29 +6,16 @@
 #include "common/panel_captions.h"
 #include "common/panel_items.h"
 #include "core/conversions.h"
+#include "platform/controls/key_codes.h"
 #include "platform/trace.h"
 
 namespace trovane {
-
-namespace {
-constexpr int16_t kKeyUp = 38;
-constexpr int16_t kKeyDown = 40;
-constexpr int16_t kKeyPageUp = 33;
-constexpr int16_t kKeyPageDown = 34;
-constexpr int16_t kKeyHome = 36;
-constexpr int16_t kKeyEnd = 35;
-
-bool IsNavigationKey(int16_t keyCode) {
-    return keyCode == kKeyUp || keyCode == kKeyDown || keyCode == kKeyPageUp || keyCode == kKeyPageDown ||
-           keyCode == kKeyHome || keyCode == kKeyEnd;
-}
-}  // namespace
 
 void Alarms::ConnectEvents() {
     ListView1.onClick.Connect([this] { SelectRow(true); });
     // On key up the list has already moved its selection to the row the key leads to.
     ListView1.onKeyUp.Connect([this](int16_t& keyCode, int16_t) {
-        if (IsNavigationKey(keyCode)) SelectRow(true);
+        if (keys::IsNavigationKey(keyCode)) SelectRow(true);
     });
     btnAck.onClick.Connect([this] { AcknowledgeAll(); });
     btnAckSelected.onClick.Connect([this] { AcknowledgeSelected(); });

@@ -3,16 +3,13 @@
 #include <algorithm>
 
 #include "platform/controls/control_errors.h"
+#include "platform/controls/key_codes.h"
 
 namespace trovane {
 
+using namespace keys;
+
 namespace {
-constexpr int16_t kPageUp = 33;
-constexpr int16_t kPageDown = 34;
-constexpr int16_t kEnd = 35;
-constexpr int16_t kHome = 36;
-constexpr int16_t kUp = 38;
-constexpr int16_t kDown = 40;
 constexpr int32_t kRowsPerPage = 10;
 }  // namespace
 

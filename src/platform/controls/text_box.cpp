@@ -4,18 +4,13 @@
 
 #include "core/conversions.h"
 #include "platform/controls/control_errors.h"
+#include "platform/controls/key_codes.h"
 
 namespace trovane {
 
-namespace {
-constexpr int16_t kBackspace = 8;
-constexpr int16_t kEnter = 13;
-constexpr int16_t kEnd = 35;
-constexpr int16_t kHome = 36;
-constexpr int16_t kLeft = 37;
-constexpr int16_t kRight = 39;
-constexpr int16_t kDelete = 46;
+using namespace keys;
 
+namespace {
 int32_t LengthOf(const std::string& text) {
     return static_cast<int32_t>(text.size());
 }
