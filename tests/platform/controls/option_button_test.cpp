@@ -36,72 +36,45 @@ class OptionButtonTest : public ::testing::Test {
     std::vector<std::string> clicks;
 };
 
-TEST_F(OptionButtonTest, SelectingOneClearsItsSiblingsAndClicksOnlyIt) {
+TEST_F(OptionButtonTest, SelectingOneClearsItsSiblingsInTheSameContainerOnly) {
+    Named("Opt_NCC").SetValue(true);
     State(1).SetValue(true);
+    std::vector<ControlProperty> changes;
+    State(1).onChanged.Connect([&](ControlProperty p) { changes.push_back(p); });
+    bool previousStillSet = true;  // the Click handler sees the group already settled
+    State(3).onClick.Connect([&] { previousStillSet = State(1).Value(); });
     clicks.clear();
     State(3).SetValue(true);
     EXPECT_FALSE(State(1).Value());
-    EXPECT_TRUE(State(3).Value());
+    EXPECT_FALSE(previousStillSet);
+    EXPECT_EQ(changes, (std::vector<ControlProperty>{ControlProperty::Value}));
     EXPECT_EQ(clicks, (std::vector<std::string>{"opt_Value3"}));
-}
-
-TEST_F(OptionButtonTest, ButtonOutsideTheArrayButInTheSameContainerIsASibling) {
-    State(2).SetValue(true);
-    Named("Opt_NA").SetValue(true);
-    EXPECT_FALSE(State(2).Value());
-}
-
-TEST_F(OptionButtonTest, ButtonsInAnotherContainerAreNotTouched) {
-    Named("Opt_NCC").SetValue(true);
-    State(0).SetValue(true);
-    EXPECT_TRUE(Named("Opt_NCC").Value());
+    Named("Opt_NA").SetValue(true);  // outside the array, same container
+    EXPECT_FALSE(State(3).Value());
+    EXPECT_TRUE(Named("Opt_NCC").Value());  // another container is not touched
     Named("Opt_Station").SetValue(true);
     EXPECT_FALSE(Named("Opt_NCC").Value());
-    EXPECT_TRUE(State(0).Value());
+    EXPECT_TRUE(Named("Opt_NA").Value());
 }
 
-TEST_F(OptionButtonTest, DeselectedSiblingReportsItsChange) {
-    State(0).SetValue(true);
-    std::vector<ControlProperty> changes;
-    State(0).onChanged.Connect([&](ControlProperty p) { changes.push_back(p); });
-    State(1).SetValue(true);
-    EXPECT_EQ(changes, (std::vector<ControlProperty>{ControlProperty::Value}));
-}
-
-TEST_F(OptionButtonTest, ClickHandlerSeesTheGroupAlreadySettled) {
-    State(0).SetValue(true);
-    bool previousStillSet = true;
-    State(2).onClick.Connect([&] { previousStillSet = State(0).Value(); });
-    State(2).SetValue(true);
-    EXPECT_FALSE(previousStillSet);
-}
-
-TEST_F(OptionButtonTest, SettingTheSameValueByCodeRaisesNothing) {
+TEST_F(OptionButtonTest, SettingByCodeWithoutChangeRaisesNothingAndClearingLeavesNoSelection) {
     State(1).SetValue(true);
     clicks.clear();
     State(1).SetValue(true);
     State(2).SetValue(false);
     EXPECT_TRUE(clicks.empty());
-}
-
-TEST_F(OptionButtonTest, OperatorClickSelectsAndClicksAgainOnTheSelectedButton) {
-    State(1).Click();
-    State(1).Click();
-    EXPECT_TRUE(State(1).Value());
-    EXPECT_EQ(clicks, (std::vector<std::string>{"opt_Value1", "opt_Value1"}));
-}
-
-TEST_F(OptionButtonTest, ClearingByCodeLeavesNoSelection) {
-    State(1).SetValue(true);
     State(1).SetValue(false);
     for (int16_t i = 0; i < 4; ++i) EXPECT_FALSE(State(i).Value());
 }
 
-TEST_F(OptionButtonTest, DisabledButtonIgnoresOperatorClick) {
-    State(1).SetEnabled(false);
+TEST_F(OptionButtonTest, OperatorClickSelectsAndClicksAgainUnlessDisabled) {
+    State(2).SetEnabled(false);
+    State(2).Click();
+    EXPECT_FALSE(State(2).Value());
     State(1).Click();
-    EXPECT_FALSE(State(1).Value());
-    EXPECT_TRUE(clicks.empty());
+    State(1).Click();
+    EXPECT_TRUE(State(1).Value());
+    EXPECT_EQ(clicks, (std::vector<std::string>{"opt_Value1", "opt_Value1"}));
 }
 
 }  // namespace
