@@ -40,6 +40,7 @@ TEST_F(ErrorDlgTest, LoadingSetsCaptionsTitleTextAndCountdown) {
     EXPECT_EQ(dialog.remainingTicks, 89);
     EXPECT_TRUE(dialog.Timer1.IsRunning());
     EXPECT_EQ(dialog.Timer1.Interval(), 1000);
+    EXPECT_EQ(TicksUntilClosed(dialog, 200), 90);
 }
 
 TEST_F(ErrorDlgTest, CaptionsComeFromTheLatestCallersReplacementTexts) {
@@ -55,24 +56,14 @@ TEST_F(ErrorDlgTest, CaptionsComeFromTheLatestCallersReplacementTexts) {
     EXPECT_EQ(dialog.Caption(), "Trovane Error");
 }
 
-TEST_F(ErrorDlgTest, ClosesOnTheNinetiethTickWithoutInput) {
-    EXPECT_EQ(TicksUntilClosed(ShowWithTimeout("90"), 200), 90);
-}
-
-TEST_F(ErrorDlgTest, TimeoutOfOneZeroOrLessClosesOnTheFirstTick) {
+TEST_F(ErrorDlgTest, CountdownEndsOnTimeUnlessTheOperatorIsActive) {
     for (const char* timeout : {"1", "0", "-5", "-2147483648"}) {
         EXPECT_EQ(TicksUntilClosed(ShowWithTimeout(timeout), 5), 1) << timeout;
     }
-}
-
-TEST_F(ErrorDlgTest, InputEverySecondKeepsItOpenAndIdlenessThenClosesIt) {
     ErrorDlg& dialog = ShowWithTimeout("5");
     EXPECT_EQ(TicksUntilClosed(dialog, 500, true), -1);
     EXPECT_EQ(TicksUntilClosed(dialog, 10), 5);
-}
-
-TEST_F(ErrorDlgTest, ActivityOverflowCountsAsIdle) {
-    ErrorDlg& dialog = ShowWithTimeout("3");
+    ShowWithTimeout("3");
     clock->ticks = 0x80000000u;
     windows->RecordInput(0x7FFFFFF0u);
     EXPECT_EQ(TicksUntilClosed(dialog, 10), 3);
@@ -86,28 +77,21 @@ TEST_F(ErrorDlgTest, OkUnloadsAndTheNextErrorLoadsTheSameDialogAgain) {
     EXPECT_EQ(ExistingErrorDlg(), &dialog);
     EXPECT_EQ(dialog.Label1.Caption(), "Second");
     EXPECT_EQ(dialog.remainingTicks, 89);
+    functions->MakeCleanup();
+    EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
-TEST_F(ErrorDlgTest, ShowErrorIssuesTheTopmostRequestForNoWindow) {
+TEST_F(ErrorDlgTest, ShowErrorMakesNoWindowTopmostAndShowError2OwnsTheDialogByTheParent) {
     functions->ShowError("x");
     ASSERT_EQ(windows->PositionRequests().size(), 1u);
     EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
     EXPECT_EQ(windows->PositionRequests()[0].flags, 3u);
-}
-
-TEST_F(ErrorDlgTest, ShowError2OwnsTheDialogByTheParent) {
     SharedErrorDlg(platform).SetHwnd(0x300);
     windows->SetWindowLong(0x100, -20, 8);
     functions->ShowError2("x", 0x100);
     EXPECT_EQ(windows->OwnerOf(0x300), 0x100);
     EXPECT_TRUE(windows->IsTopmost(0x300));
     EXPECT_TRUE(ExistingErrorDlg()->Visible());
-}
-
-TEST_F(ErrorDlgTest, MakeCleanupUnloadsAndReleasesTheSharedDialog) {
-    functions->ShowError("x");
-    functions->MakeCleanup();
-    EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
 TEST(MBIconTest, DefaultsToTheInformationIconAndSavesOnlyChanges) {

@@ -6,25 +6,20 @@
 #include "common/panel_charset.h"
 #include "common/panel_items.h"
 #include "common/panel_subscription.h"
-#include "core/conversions.h"
 #include "core/error.h"
 #include "platform/controls/controls.h"
 #include "platform/late_bound.h"
 #include "services_fixture.h"
+#include "support/fake_container.h"
 
 namespace trovane::testing {
 namespace {
 
-TEST(PanelItemsTest, PathsOfObjectIndexedAndApplicationItems) {
+TEST(PanelItemsTest, ItemPathsAndRequestListsWithHandleKForItemK) {
     EXPECT_EQ(ItemPath(1, "ABC", "GC"), "\\\\APL\\1\\P\\ABC:GC");
     EXPECT_EQ(IndexedItemPath(1, "ABC", 10, "CO"), "\\\\APL\\1\\P\\ABC\\10:CO");
     EXPECT_EQ(ApplicationItemPath(1, "AT"), "\\\\APL\\1:AT");
-}
-
-TEST(PanelItemsTest, RequestListsStartAtOneWithHandleKForItemK) {
     const SubscriptionRequest request = BuildSubscriptionRequest({"a", "b"});
-    EXPECT_EQ(TypeName(request.itemPaths), "String()");
-    EXPECT_EQ(TypeName(request.clientHandles), "Long()");
     EXPECT_EQ(request.itemPaths, Variant(VariantArray(ElementKind::String, 1, {"a", "b"})));
     EXPECT_EQ(request.clientHandles, Variant(VariantArray(ElementKind::Long, 1, {1, 2})));
 }
@@ -47,41 +42,29 @@ class RecordingPanel final : public SysDataCallback {
 
 class SubscriptionTest : public ::testing::Test {
   protected:
+    void SetUp() override { panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel); }
     std::shared_ptr<FakeConnection> connection = std::make_shared<FakeConnection>();
     RecordingPanel panel;
 };
 
-TEST_F(SubscriptionTest, ActivateSubscribesAtRate200AndSetsTheCallback) {
-    panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel);
+TEST_F(SubscriptionTest, ActivateSubscribesAtRate200AndChangesReachTheirItemByClientHandleInBatchOrder) {
     ASSERT_EQ(connection->subscriptions.size(), 1u);
     const auto& subscription = connection->subscriptions[0];
     EXPECT_EQ(subscription.updateRate, 200);
     EXPECT_EQ(subscription.itemPaths.AsArray().At(2), Variant("\\\\APL\\1\\P\\ABC:OV"));
     EXPECT_EQ(subscription.callback, &panel);
     EXPECT_EQ(panel.subscription.SubscriptionHandle(), 1);
-}
-
-TEST_F(SubscriptionTest, ChangesReachTheirItemByClientHandleInBatchOrder) {
-    panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel);
+    connection->Notify(1, {0, 3, -1}, {"a", "b", "c"});
+    EXPECT_FALSE(panel.comment || panel.value);
     connection->Notify(1, {2, 7, 1, 1}, {"v", "ignored", "first", "second"});
     EXPECT_EQ(panel.value, Variant("v"));
     EXPECT_EQ(panel.comment, Variant("second"));
-}
-
-TEST_F(SubscriptionTest, BatchOfUnknownHandlesChangesNothing) {
-    panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel);
-    connection->Notify(1, {0, 3, -1}, {"a", "b", "c"});
-    EXPECT_FALSE(panel.comment || panel.value);
-}
-
-TEST_F(SubscriptionTest, CountBeyondTheArraysStopsAtTheirEnd) {
-    panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel);
-    panel.subscription.Dispatch(5, MakeLongArray({1}), MakeVariantArray({"only"}));
+    panel.subscription.Dispatch(5, MakeLongArray({1}),
+                                MakeVariantArray({"only"}));  // count beyond the arrays
     EXPECT_EQ(panel.comment, Variant("only"));
 }
 
 TEST_F(SubscriptionTest, DeactivateRemovesTheSubscriptionAndReleasesTheConnection) {
-    panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel);
     panel.subscription.Refresh();
     panel.subscription.Deactivate();
     EXPECT_EQ(connection->refreshes.at(0).handle, 1);
@@ -98,15 +81,15 @@ class ZeroHandleConnection final : public FakeConnection {
     void RemoveItems(int32_t) override { throw Error(ErrorNumber::InvalidCall); }
 };
 
-TEST_F(SubscriptionTest, DeactivateWithHandleZeroSkipsRemoveButReleases) {
+TEST(SubscriptionEndTest, HandleZeroSkipsRemoveAndDestroyingAnActiveSubscriptionRemovesIt) {
     auto zero = std::make_shared<ZeroHandleConnection>();
+    RecordingPanel panel;
     panel.subscription.Activate(zero->AsVariant(), panel.Items(), panel);
     EXPECT_NO_THROW(panel.subscription.Deactivate());
     EXPECT_FALSE(panel.subscription.IsActive());
     EXPECT_EQ(zero.use_count(), 1);
-}
 
-TEST_F(SubscriptionTest, DestroyingAnActiveSubscriptionRemovesIt) {
+    auto connection = std::make_shared<FakeConnection>();
     {
         RecordingPanel shortLived;
         shortLived.subscription.Activate(connection->AsVariant(), shortLived.Items(), shortLived);
@@ -125,28 +108,21 @@ TEST(PanelCaptionsTest, TaggedControlsOfCaptionedKindsTakeTheirTexts) {
     badTag.SetTag("abc");
     badTag.SetCaption("designed");
     textBox.SetTag("270");
-    auto container = std::make_shared<DispatchObject>("frmHost");
-    container->Method("GetNlsString",
-                      [](std::span<Variant> args) { return Variant("T" + ToString(args[0])); });
-
-    SetCaptionsFromTags(form, ContainerTexts(Variant(ObjectRef(container))));
-    EXPECT_EQ(label.Caption(), "T270");
+    SetCaptionsFromTags(form, ContainerTexts(std::make_shared<FakeContainer>()->AsVariant()));
+    EXPECT_EQ(label.Caption(), "OK");
     EXPECT_EQ(untagged.Caption(), "designed");
     EXPECT_EQ(badTag.Caption(), "designed");
     EXPECT_EQ(textBox.Caption(), "");
 }
 
-class FixedLocale final : public Locale {
-  public:
-    explicit FixedLocale(std::string codePage) : codePage_(std::move(codePage)) {}
+// A locale whose default code page the test chooses; only 1250 has a character set.
+struct FixedLocale final : Locale {
     std::string DecimalSeparator() override { return "."; }
-    std::string DefaultAnsiCodePage() override { return codePage_; }
-    std::optional<int32_t> CharsetOfCodePage(uint32_t codePage) override {
-        return codePage == 1250 ? std::optional<int32_t>(238) : std::nullopt;
+    std::string DefaultAnsiCodePage() override { return codePage; }
+    std::optional<int32_t> CharsetOfCodePage(uint32_t page) override {
+        return page == 1250 ? std::optional<int32_t>(238) : std::nullopt;
     }
-
-  private:
-    std::string codePage_;
+    std::string codePage;
 };
 
 TEST(FontHelperTest, CharsetIsSetOnControlsWithAFontOnlyWhenTheCodePageTranslates) {
@@ -154,12 +130,13 @@ TEST(FontHelperTest, CharsetIsSetOnControlsWithAFontOnlyWhenTheCodePageTranslate
     auto& label = form->Add<Label>("lblName");
     form->Add<Timer>("Timer1");
     label.SetFontCharset(1);
+    FixedLocale locale;
     for (const char* codePage : {"", "abc", "65001"}) {
-        FixedLocale locale(codePage);
+        locale.codePage = codePage;
         FontHelper(locale).SetCharset(form->ControlsObject());
         EXPECT_EQ(label.FontCharset(), 1) << codePage;
     }
-    FixedLocale locale("1250");
+    locale.codePage = "1250";
     FontHelper(locale).SetCharset(form->ControlsObject());
     EXPECT_EQ(label.FontCharset(), 238);
 }

@@ -36,12 +36,6 @@ class RecordingColorTool final : public ColorSettingTool {
 class ServicesTest : public ::testing::Test {
   protected:
     ServicesTest() {
-        platform.messageBox = messages;
-        platform.clock = clock;
-        platform.files = files;
-        platform.windows = windows;
-        platform.colorTool = colorTool;
-        platform.locale = std::make_shared<DefaultLocale>();
         ReleaseShared();
         functions = std::make_unique<CommonFunctions>(platform);
     }
@@ -80,7 +74,13 @@ class ServicesTest : public ::testing::Test {
     std::shared_ptr<HeadlessWindowSystem> windows = std::make_shared<HeadlessWindowSystem>();
     std::shared_ptr<RecordingColorTool> colorTool = std::make_shared<RecordingColorTool>();
     std::shared_ptr<FakeConnection> connection = std::make_shared<FakeConnection>();
-    PlatformServices platform;
+    PlatformServices platform{.messageBox = messages,
+                              .clock = clock,
+                              .locale = std::make_shared<DefaultLocale>(),
+                              .files = files,
+                              .windows = windows,
+                              .resources = nullptr,
+                              .colorTool = colorTool};
     std::unique_ptr<CommonFunctions> functions;
 };
 

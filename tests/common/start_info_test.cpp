@@ -6,8 +6,6 @@
 namespace trovane::testing {
 namespace {
 
-constexpr const char* kPathCommand = "#return PATH(\"APL_\")";
-
 class StartInfoTest : public ServicesTest {
   protected:
     void SetUp() override { AnswerPath(MakeStringArray({"C:\\apl\\demo\\APL\\"})); }
@@ -25,52 +23,29 @@ TEST_F(StartInfoTest, StartInfoIsKeptAsACopy) {
     EXPECT_EQ(functions->GetLanguage(), Variant("EN"));
 }
 
-TEST_F(StartInfoTest, TimeoutWithoutStartInfoIsNinetyAndSendsNothing) {
-    EXPECT_TRUE(functions->GetStartInfo().IsEmpty());
-    EXPECT_EQ(functions->GetDialogTimeout(), 90);
+TEST_F(StartInfoTest, TimeoutIsReadAtEveryCallFromTheApplicationsFrameWindowFile) {
+    EXPECT_EQ(functions->GetDialogTimeout(), 90);  // no start information: nothing is asked
     EXPECT_TRUE(connection->sent.empty());
-}
-
-TEST_F(StartInfoTest, TimeoutIsReadFromTheApplicationsFrameWindowFile) {
     functions->SetStartInfo(StartInfo());
     EXPECT_EQ(TimeoutFor("30"), 30);
-    EXPECT_EQ(connection->Commands().back(), kPathCommand);
+    EXPECT_EQ(connection->Commands().back(), "#return PATH(\"APL_\")");
     EXPECT_EQ(files->reads.back(), "C:\\apl\\demo\\PAR\\APL\\FrameWindow.ini");
-}
-
-TEST_F(StartInfoTest, TimeoutFallsBackToNinetyForValuesThatAreNotWholeNumbers) {
-    functions->SetStartInfo(StartInfo());
-    EXPECT_EQ(TimeoutFor("abc"), 90);
-    EXPECT_EQ(TimeoutFor(""), 90);
-    EXPECT_EQ(TimeoutFor("1e10"), 90);  // beyond the 32-bit range
-    EXPECT_EQ(TimeoutFor("12.5"), 12);  // a fraction is rounded half to even
-    EXPECT_EQ(TimeoutFor("  45  "), 45);
-}
-
-TEST_F(StartInfoTest, TimeoutValueLongerThanTheFirstBufferIsReadWhole) {
-    functions->SetStartInfo(StartInfo());
     // Cut after 254 characters this would read as zero.
     EXPECT_EQ(TimeoutFor(std::string(300, '0') + "30"), 30);
-}
-
-TEST_F(StartInfoTest, TimeoutIsReadAgainAtEveryCall) {
-    functions->SetStartInfo(StartInfo());
-    EXPECT_EQ(TimeoutFor("30"), 30);
+    const std::pair<const char*, int32_t> values[] = {
+        {"abc", 90}, {"", 90}, {"1e10", 90}, {"12.5", 12}, {"  45  ", 45}};  // fractions round to even
+    for (const auto& [value, timeout] : values) EXPECT_EQ(TimeoutFor(value), timeout) << value;
     files->Erase("C:\\apl\\demo\\PAR\\APL\\FrameWindow.ini");
     EXPECT_EQ(functions->GetDialogTimeout(), 90);
 }
 
-TEST_F(StartInfoTest, PathOfFourCharactersLeavesTheFileRelative) {
-    AnswerPath(MakeStringArray({"APL\\"}));
-    functions->SetStartInfo(StartInfo());
-    files->Put("PAR\\APL\\FrameWindow.ini", "[control]\n dlgtimeout = 7\n");
-    EXPECT_EQ(functions->GetDialogTimeout(), 7);
-}
-
-TEST_F(StartInfoTest, PathAnswerThatIsNotAStringArrayGivesNinety) {
-    AnswerPath(MakeVariantArray({"C:\\apl\\demo\\APL\\"}));
+TEST_F(StartInfoTest, TimeoutFileFollowsThePathAnswer) {
     functions->SetStartInfo(StartInfo());
     PutTimeout("30");
+    AnswerPath(MakeStringArray({"APL\\"}));  // four characters: the file name stays relative
+    files->Put("PAR\\APL\\FrameWindow.ini", "[control]\n dlgtimeout = 7\n");
+    EXPECT_EQ(functions->GetDialogTimeout(), 7);
+    AnswerPath(MakeVariantArray({"C:\\apl\\demo\\APL\\"}));
     EXPECT_EQ(functions->GetDialogTimeout(), 90);
     AnswerPath(MakeStringArray({}));
     EXPECT_EQ(functions->GetDialogTimeout(), 90);
@@ -87,7 +62,7 @@ TEST(IniFileTest, ValuesAroundTheBufferBoundariesAreReadWhole) {
     EXPECT_EQ(ReadIniValue(files, "S", "K", "missing.ini"), "");
 }
 
-TEST_F(StartInfoTest, ColorToolIsLeftAloneWithoutUseCst) {
+TEST_F(StartInfoTest, ColorToolIsConfiguredInOrderOnlyWithUseCstAndAsFarAsThePathAllows) {
     functions->SetStartInfo(StartInfo({{"USE_CST", int16_t{0}}}));
     functions->SetStartInfo(StartInfo());
     EXPECT_TRUE(colorTool->calls.empty());
@@ -95,12 +70,8 @@ TEST_F(StartInfoTest, ColorToolIsLeftAloneWithoutUseCst) {
 
     EXPECT_EQ(functions->GetColorByIndex(3), 0x123456);
     EXPECT_TRUE(Cst::SharedExists());
-    ASSERT_EQ(colorTool->calls.size(), 1u);
-    EXPECT_EQ(colorTool->calls[0].first, "ColorByIndex");
-    EXPECT_EQ(colorTool->calls[0].second, Variant(int16_t{3}));
-}
-
-TEST_F(StartInfoTest, ColorToolIsConfiguredInOrderWithUseCst) {
+    EXPECT_EQ(colorTool->calls, (decltype(colorTool->calls){{"ColorByIndex", int16_t{3}}}));
+    colorTool->calls.clear();
     functions->SetStartInfo(StartInfo({{"USE_CST", int16_t{1}}}));
     const std::vector<std::pair<std::string, Variant>> expected = {
         {"UserName", "op"},
@@ -111,13 +82,10 @@ TEST_F(StartInfoTest, ColorToolIsConfiguredInOrderWithUseCst) {
         {"Initialize", "ColorScheme"},
     };
     EXPECT_EQ(colorTool->calls, expected);
-}
-
-TEST_F(StartInfoTest, ColorToolKeepsTheFirstStepsWhenThePathIsTooShort) {
+    colorTool->calls.clear();
     AnswerPath(MakeStringArray({"AP\\"}));
     functions->SetStartInfo(StartInfo({{"USE_CST", int16_t{1}}}));
-    ASSERT_EQ(colorTool->calls.size(), 3u);
-    EXPECT_EQ(colorTool->calls.back().first, "ApplicationNumber");
+    EXPECT_EQ(colorTool->calls, decltype(expected)(expected.begin(), expected.begin() + 3));
 }
 
 }  // namespace

@@ -14,161 +14,113 @@ using testing::FakeResourceFiles;
 
 const std::string kInstalledEnglish = "C:\\Program Files\\Trovane\\EN\\Trovane2_EN.dll";
 
+PlatformServices ServicesWith(std::shared_ptr<ResourceFiles> resources) {
+    PlatformServices services = PlatformServices::Defaults();
+    services.resources = std::move(resources);
+    return services;
+}
+
 class Texts : public ::testing::Test {
   protected:
-    Texts() : files(std::make_shared<FakeResourceFiles>()), texts(Services(files)) {}
-
-    static PlatformServices Services(std::shared_ptr<FakeResourceFiles> resources) {
-        PlatformServices services = PlatformServices::Defaults();
-        services.resources = std::move(resources);
-        return services;
+    void LoadEnglish(std::map<int32_t, std::string> entries) {
+        files->files[kInstalledEnglish] = std::move(entries);
+        texts.SetLanguage("EN");
     }
 
-    void SetReplacements(std::vector<Variant> pairs) {
-        std::vector<Variant> list{Variant(), Variant()};
-        list.insert(list.end(), pairs.begin(), pairs.end());
-        texts.SetStringReplacementList(MakeVariantArray(list));
-    }
-
-    std::shared_ptr<FakeResourceFiles> files;
-    CommonFunctions texts;
+    std::shared_ptr<FakeResourceFiles> files = std::make_shared<FakeResourceFiles>();
+    CommonFunctions texts{ServicesWith(files)};
 };
 
-TEST_F(Texts, FileNameFromInstallationDirectoryWithoutBaseName) {
+TEST_F(Texts, FileNameComesFromInstallationDirectoryOrBaseName) {
+    texts.SetResDllPath("D:\\elsewhere");  // never part of the file name
     texts.loadResourceDll("EN");
     EXPECT_EQ(files->opened.back(), kInstalledEnglish);
+    const std::pair<const char*, const char*> cases[] = {
+        {"Panels", "C:\\Program Files\\Trovane\\DE\\Panels_DE.dll"},
+        {"C:\\texts\\Panels", "C:\\texts\\DE\\Panels_DE.dll"},
+        {"\\\\server\\share\\", "\\\\server\\share\\DE\\_DE.dll"},
+    };
+    for (const auto& [baseName, fileName] : cases) {
+        texts.SetResDllBaseName(baseName);
+        texts.loadResourceDll("DE");
+        EXPECT_EQ(files->opened.back(), fileName);
+    }
+    EXPECT_EQ(files->installationDirectoryAsked, 2);
 }
 
-TEST_F(Texts, FileNameFromBareBaseName) {
-    texts.SetResDllBaseName("Panels");
-    texts.loadResourceDll("DE");
-    EXPECT_EQ(files->opened.back(), "C:\\Program Files\\Trovane\\DE\\Panels_DE.dll");
-}
-
-TEST_F(Texts, FileNameFromBaseNameWithDirectory) {
-    texts.SetResDllBaseName("C:\\texts\\Panels");
-    texts.loadResourceDll("EN");
-    EXPECT_EQ(files->opened.back(), "C:\\texts\\EN\\Panels_EN.dll");
-    EXPECT_EQ(files->installationDirectoryAsked, 0);
-
-    texts.SetResDllBaseName("\\\\server\\share\\");
-    texts.loadResourceDll("FI");
-    EXPECT_EQ(files->opened.back(), "\\\\server\\share\\FI\\_FI.dll");
-}
-
-TEST_F(Texts, ResourcePathDoesNotEnterTheFileName) {
-    texts.SetResDllPath("D:\\elsewhere");
-    texts.loadResourceDll("EN");
-    EXPECT_EQ(files->opened.back(), kInstalledEnglish);
-}
-
-TEST_F(Texts, BuiltInTableWhenNothingConfigured) {
+TEST_F(Texts, BuiltInTableWhenNothingConfiguredOrNoResourceService) {
+    EXPECT_EQ(TypeName(texts.GetLanguage()), "String");
     EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
-    EXPECT_EQ(texts.GetNlsString(323), "<ID NOT FOUND>");
-    EXPECT_EQ(texts.GetNlsString(0), "<ID NOT FOUND>");
-    EXPECT_EQ(texts.GetNlsString(-106), "<ID NOT FOUND>");
-}
-
-TEST_F(Texts, BaseNameOrPathWithoutFileGivesTextNotFound) {
-    texts.SetResDllBaseName("Panels");
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(271), "<TEXT NOT FOUND>");
-    EXPECT_EQ(texts.GetNlsString(323), "<TEXT NOT FOUND>");
-
-    CommonFunctions pathOnly(Services(files));
-    pathOnly.SetResDllPath("D:\\texts");
-    EXPECT_EQ(pathOnly.GetNlsString(271), "<TEXT NOT FOUND>");
+    for (int32_t id : {323, 0, -106}) EXPECT_EQ(texts.GetNlsString(id), "<ID NOT FOUND>") << id;
+    CommonFunctions withoutService(ServicesWith(nullptr));
+    withoutService.SetLanguage("EN");
+    EXPECT_EQ(withoutService.GetNlsString(165), "OK");
 }
 
 TEST_F(Texts, TextMissingFromFileFallsBackByConfiguration) {
-    files->files[kInstalledEnglish] = {{101, "From file"}};
-    texts.SetLanguage("EN");
+    LoadEnglish({{101, "From file"}, {165, ""}});
     EXPECT_EQ(texts.GetNlsString(101), "From file");
     EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
+    EXPECT_EQ(texts.GetNlsString(165), "OK");  // empty counts as missing
     EXPECT_EQ(texts.GetNlsString(323), "<ID NOT FOUND>");
 
+    // A base name or path of its own means no built-in table, loaded or not.
     files->files["C:\\t\\EN\\P_EN.dll"] = {{101, "From file"}};
     texts.SetResDllBaseName("C:\\t\\P");
     texts.SetLanguage("EN");
     EXPECT_EQ(texts.GetNlsString(101), "From file");
     EXPECT_EQ(texts.GetNlsString(271), "<TEXT NOT FOUND>");
+    texts.SetResDllBaseName("Panels");
+    texts.SetLanguage("EN");
+    EXPECT_EQ(texts.GetNlsString(323), "<TEXT NOT FOUND>");
+    CommonFunctions pathOnly(ServicesWith(files));
+    pathOnly.SetResDllPath("D:\\texts");
+    EXPECT_EQ(pathOnly.GetNlsString(271), "<TEXT NOT FOUND>");
 }
 
-TEST_F(Texts, EmptyTextInFileCountsAsMissing) {
-    files->files[kInstalledEnglish] = {{271, ""}};
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
-}
-
-TEST_F(Texts, ReplacementOverridesFileAndBuiltInText) {
-    files->files[kInstalledEnglish] = {{1234, "From file"}, {271, "File error title"}};
-    texts.SetLanguage("EN");
-    SetReplacements({"ID1234", "Replaced", "id271", "Title replaced"});
+TEST_F(Texts, ReplacementTextOverridesFileAndBuiltInUnlessEmptyOrNotText) {
+    LoadEnglish({{1234, "From file"}, {271, "File error title"}});
+    texts.SetStringReplacementList(MakeVariantArray({Variant(), Variant(), "ID1234", "Replaced", "id271",
+                                                     "Title replaced", "ID106", "", "ID165", int32_t{5}}));
     EXPECT_EQ(texts.GetNlsString(1234), "Replaced");
     EXPECT_EQ(texts.GetNlsString(271), "Title replaced");
-}
-
-TEST_F(Texts, EmptyOrNonTextReplacementDoesNotOverride) {
-    SetReplacements({"ID271", "", "ID106", int32_t{5}, "ID165", "Okay"});
-    EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
     EXPECT_EQ(texts.GetNlsString(106), "Cancel");
-    EXPECT_EQ(texts.GetNlsString(165), "Okay");
+    EXPECT_EQ(texts.GetNlsString(165), "OK");
 }
 
-TEST_F(Texts, TextOf254CharactersIsReturnedWholeLongerIsCut) {
+TEST_F(Texts, FileTextIsCutAt254CharactersOrTheFirstNulAndSelectedByTheLow16Bits) {
     const std::string exact(254, 'x');
-    files->files[kInstalledEnglish] = {{101, exact}, {102, exact + "yz"}};
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(101), exact);
-    EXPECT_EQ(texts.GetNlsString(102), exact);
-}
-
-TEST_F(Texts, LimitCountsCharactersNotBytes) {
     std::string accented;
     for (int i = 0; i < 254; ++i) accented += "\xC3\xA9";
-    files->files[kInstalledEnglish] = {{101, accented + "\xE2\x82\xAC"}};
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(101), accented);
+    LoadEnglish({{101, exact},
+                 {102, exact + "yz"},
+                 {103, accented + "\xE2\x82\xAC"},
+                 {104, std::string("Open\0Close", 10)},
+                 {105, std::string("\0x", 2)}});
+    EXPECT_EQ(texts.GetNlsString(101), exact);
+    EXPECT_EQ(texts.GetNlsString(102), exact);
+    EXPECT_EQ(texts.GetNlsString(103), accented);  // characters, not bytes
+    EXPECT_EQ(texts.GetNlsString(104), "Open");
+    EXPECT_EQ(texts.GetNlsString(105), "");  // found, so no fall-back, but empty up to the NUL
+    EXPECT_EQ(texts.GetNlsString(0x10000 + 104), "Open");
 }
 
-TEST_F(Texts, TextEndsAtFirstNul) {
-    files->files[kInstalledEnglish] = {{101, std::string("Open\0Close", 10)}, {102, std::string("\0x", 2)}};
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(101), "Open");
-    EXPECT_EQ(texts.GetNlsString(102), "");  // found, so no fall-back, but empty up to the NUL
-}
-
-TEST_F(Texts, OnlyLowSixteenBitsSelectAFileText) {
-    files->files[kInstalledEnglish] = {{101, "Open"}};
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(0x10000 + 101), "Open");
-}
-
-TEST_F(Texts, SettingLanguageTwiceKeepsBothFilesAndUsesTheLast) {
-    files->files[kInstalledEnglish] = {{101, "Open"}};
+TEST_F(Texts, EachLanguageSwitchUsesTheLastFileAndAFailedLoadMeansNoFile) {
     files->files["C:\\Program Files\\Trovane\\DE\\Trovane2_DE.dll"] = {{101, "Öffnen"}};
-    texts.SetLanguage("EN");
+    LoadEnglish({{101, "Open"}});
     texts.SetLanguage("DE");
     EXPECT_EQ(texts.GetNlsString(101), "Öffnen");
     EXPECT_EQ(files->OpenCount(), 2u);
-    EXPECT_EQ(texts.GetLanguage().AsString(), "DE");
-}
-
-TEST_F(Texts, FailedLoadAfterGoodOneMeansNoFile) {
-    files->files[kInstalledEnglish] = {{101, "Open"}};
-    texts.SetLanguage("EN");
     texts.SetLanguage("XX");
-    EXPECT_EQ(texts.GetNlsString(101), "Control Dialog");  // built-in, not the English file
+    EXPECT_EQ(texts.GetNlsString(101), "Control Dialog");  // built-in, not an earlier file
     EXPECT_EQ(texts.GetLanguage().AsString(), "XX");
 }
 
 TEST_F(Texts, MakeCleanupReleasesFilesAndUnloadsSharedDialog) {
     int unloads = 0;
     SetSharedErrorDialogUnloader([&unloads] { ++unloads; });
-    files->files[kInstalledEnglish] = {{101, "Open"}};
+    LoadEnglish({{101, "Open"}});
     texts.SetLanguage("EN");
-    texts.SetLanguage("EN");
-
     EXPECT_TRUE(texts.MakeCleanup().IsEmpty());
     EXPECT_EQ(files->OpenCount(), 0u);
     EXPECT_EQ(unloads, 1);
@@ -178,27 +130,13 @@ TEST_F(Texts, MakeCleanupReleasesFilesAndUnloadsSharedDialog) {
     EXPECT_TRUE(texts.MakeCleanup().IsEmpty());  // nothing loaded, no hook: still fine
 }
 
-TEST_F(Texts, GetLanguageIsAStringVariant) {
-    EXPECT_EQ(TypeName(texts.GetLanguage()), "String");
-    EXPECT_EQ(texts.GetLanguage().AsString(), "");
-}
-
-TEST(TextsWithoutResourceService, LookupsFallBack) {
-    PlatformServices services = PlatformServices::Defaults();
-    services.resources = nullptr;
-    CommonFunctions texts(services);
-    texts.SetLanguage("EN");
-    EXPECT_EQ(texts.GetNlsString(165), "OK");
-}
-
 #ifdef TROVANE_HAVE_LANGUAGE_FILES
 // The whole path on a real file: name building with backslashes on this platform, the reader, the
 // limit. See tests/platform/pe_resource_files_test.cpp for the file's texts.
 TEST(TextsFromRealLanguageFile, InstallationDirectoryAndBackslashBaseName) {
     auto resources = std::make_shared<PeResourceFiles>();
     resources->SetInstallationDirectory(std::string(TROVANE_LANGUAGE_FILES_DIR) + "/pe64");
-    PlatformServices services = PlatformServices::Defaults();
-    services.resources = resources;
+    const PlatformServices services = ServicesWith(resources);
 
     CommonFunctions installed(services);
     installed.SetLanguage("EN");

@@ -1,9 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "common/common_functions.h"
 #include "core/error.h"
 #include "core/object.h"
@@ -15,8 +11,6 @@ namespace trovane {
 namespace {
 
 using testing::ErrorNumberOf;
-
-using testing::TraceCapture;
 using Lines = std::vector<std::string>;
 
 // A list of the given elements after a currency header, as the server sends it.
@@ -36,89 +30,63 @@ class ValueListTest : public ::testing::Test {
   protected:
     std::shared_ptr<testing::FakeMessageBox> messageBox = std::make_shared<testing::FakeMessageBox>();
     CommonFunctions common{testing::PlatformWith(messageBox)};
-    TraceCapture trace;
+    testing::TraceCapture trace;
 };
 
-TEST_F(ValueListTest, EmptyListHoldsOnlyACurrencyZeroHeader) {
+TEST_F(ValueListTest, EmptyListHoldsOnlyTheHeaderAndLookupInItTracesTheError) {
     const Variant list = common.EmptyList();
-    EXPECT_EQ(TypeName(list), "Variant()");
-    EXPECT_EQ(list.AsArray().LowerBound(), 0);
-    EXPECT_EQ(list.AsArray().UpperBound(), 0);
-    EXPECT_EQ(list.AsArray().At(0), Variant(Currency{0}));
-}
-
-TEST_F(ValueListTest, LookupInAnEmptyListTracesTheErrorAndGivesEmpty) {
-    EXPECT_TRUE(common.GetListItem(common.EmptyList(), "A").IsEmpty());
+    EXPECT_EQ(list, ListOf({}));
+    EXPECT_TRUE(common.GetListItem(list, "A").IsEmpty());
     EXPECT_EQ(trace.Lines(),
               (Lines{"-> GetListItem (A)", "<- GetListItem ERROR OCCURRED. Variable type is Empty"}));
 }
 
-TEST_F(ValueListTest, AddedAttributesFollowTheHeaderAsPairsAndRepeatedNamesFindTheFirst) {
-    Variant list = common.EmptyList();
-    common.AddListAttribute(list, "A", Variant(int32_t{1}));
-    EXPECT_EQ(list.AsArray().UpperBound(), 2);
-    EXPECT_EQ(list.AsArray().At(1), Variant("A"));
-    common.AddListAttribute(list, "A", Variant(int32_t{2}));
-    EXPECT_EQ(list.AsArray().UpperBound(), 4);
-    EXPECT_EQ(common.GetListItem(list, "A"), Variant(int32_t{1}));
-    EXPECT_EQ(trace.Lines().back(), "<- GetListItem");
-}
-
-TEST_F(ValueListTest, ObjectValuesAreStoredAndReturnedByReference) {
+TEST_F(ValueListTest, AddedAttributesFollowAsPairsRepeatedNamesFindTheFirstObjectsStayReferences) {
     Variant list = common.EmptyList();
     auto object = std::make_shared<CommonFunctions>();
+    common.AddListAttribute(list, "A", Variant(int32_t{1}));
+    common.AddListAttribute(list, "A", Variant(int32_t{2}));
     common.AddListAttribute(list, "USED_OPC_SERVER", Variant(ObjectRef(object)));
+    EXPECT_EQ(list.AsArray().UpperBound(), 6);
+    EXPECT_EQ(list.AsArray().At(1), Variant("A"));
+    EXPECT_EQ(common.GetListItem(list, "A"), Variant(int32_t{1}));
+    EXPECT_EQ(trace.Lines().back(), "<- GetListItem");
     EXPECT_EQ(common.GetListItem(list, "USED_OPC_SERVER").AsObject().get(), object.get());
 }
 
-TEST_F(ValueListTest, NamesCompareCaseSensitively) {
-    const Variant list = ListOf({Variant("Name"), Variant("x")});
-    EXPECT_TRUE(common.GetListItem(list, "NAME").IsEmpty());
-}
-
-TEST_F(ValueListTest, LookupScansValuesTooAndTakesAMatchingValueForAName) {
+TEST_F(ValueListTest, LookupIsCaseSensitiveScansValuesTooAndItsDefaultReplacesEmptyButNotNull) {
+    EXPECT_TRUE(common.GetListItem(ListOf({Variant("Name"), Variant("x")}), "NAME").IsEmpty());
     const Variant list = ListOf({Variant("A"), Variant("B"), Variant("B"), Variant(int32_t{5})});
     EXPECT_EQ(common.GetListItem(list, "B"), Variant("B"));
+    const Variant cut = ListOf({Variant("A"), Variant(int32_t{1}), Variant("B")});
+    EXPECT_EQ(ErrorNumberOf([&] { common.GetListItem(cut, "B"); }), 9);
+    const Variant defaults =
+        ListOf({Variant("E"), Variant(), Variant("N"), Variant::Null(), Variant("V"), Variant("v")});
+    EXPECT_EQ(common.GetListItemDef(defaults, "E", Variant("dflt")), Variant("dflt"));
+    EXPECT_EQ(common.GetListItemDef(defaults, "missing", Variant(int32_t{-1})), Variant(int32_t{-1}));
+    EXPECT_TRUE(common.GetListItemDef(defaults, "N", Variant("dflt")).IsNull());
+    EXPECT_EQ(common.GetListItemDef(defaults, "V", Variant("dflt")), Variant("v"));
 }
 
-TEST_F(ValueListTest, SetListAttributeStepsOverValues) {
+TEST_F(ValueListTest, SetListAttributeStepsOverValuesAndDoesNotAddAMissingName) {
     Variant list = ListOf({Variant("A"), Variant("B"), Variant("B"), Variant(int32_t{5})});
     EXPECT_TRUE(common.SetListAttribute(list, "B", Variant(int32_t{7})).IsEmpty());
-    EXPECT_EQ(list.AsArray().At(2), Variant("B"));
-    EXPECT_EQ(list.AsArray().At(4), Variant(int32_t{7}));
+    EXPECT_EQ(list, ListOf({Variant("A"), Variant("B"), Variant("B"), Variant(int32_t{7})}));
     EXPECT_EQ(trace.Lines(), (Lines{"-> SetListAttribute (B)", "<- SetListAttribute"}));
-}
-
-TEST_F(ValueListTest, SetListAttributeDoesNotAddAMissingName) {
-    Variant list = ListOf({Variant("A"), Variant("X")});
-    common.SetListAttribute(list, "X", Variant(int32_t{1}));
-    EXPECT_EQ(list, ListOf({Variant("A"), Variant("X")}));
+    Variant other = ListOf({Variant("A"), Variant("X")});
+    common.SetListAttribute(other, "X", Variant(int32_t{1}));
+    EXPECT_EQ(other, ListOf({Variant("A"), Variant("X")}));
     EXPECT_EQ(trace.Lines().back(), "<- SetListAttribute ERROR OCCURRED. Variable type is Empty");
-}
-
-TEST_F(ValueListTest, NameInTheLastElementRaisesSubscriptOutOfRange) {
-    const Variant list = ListOf({Variant("A"), Variant(int32_t{1}), Variant("B")});
-    EXPECT_EQ(ErrorNumberOf([&] { common.GetListItem(list, "B"); }), 9);
 }
 
 TEST_F(ValueListTest, IndexesBeyondSixteenBitsOverflow) {
     Variant full = ListWithUpperBound(32765);
     common.AddListAttribute(full, "LAST", Variant(int32_t{1}));  // upper bound exactly 32767
-    EXPECT_EQ(full.AsArray().UpperBound(), 32767);
     EXPECT_EQ(common.GetListItem(full, "LAST"), Variant(int32_t{1}));
     EXPECT_EQ(ErrorNumberOf([&] { common.AddListAttribute(full, "MORE", Variant()); }), 6);
     EXPECT_EQ(full.AsArray().UpperBound(), 32767);  // nothing was added
     const Variant tooLong = ListWithUpperBound(32768);
     EXPECT_EQ(ErrorNumberOf([&] { common.GetListItem(tooLong, "A"); }), 6);
-}
-
-TEST_F(ValueListTest, DefaultReplacesEmptyButNotNull) {
-    const Variant list =
-        ListOf({Variant("E"), Variant(), Variant("N"), Variant::Null(), Variant("V"), Variant("v")});
-    EXPECT_EQ(common.GetListItemDef(list, "E", Variant("dflt")), Variant("dflt"));
-    EXPECT_EQ(common.GetListItemDef(list, "missing", Variant(int32_t{-1})), Variant(int32_t{-1}));
-    EXPECT_TRUE(common.GetListItemDef(list, "N", Variant("dflt")).IsNull());
-    EXPECT_EQ(common.GetListItemDef(list, "V", Variant("dflt")), Variant("v"));
 }
 
 TEST_F(ValueListTest, NonListsGiveEmptyAndTheErrorTraceWithoutRaising) {
@@ -133,40 +101,28 @@ TEST_F(ValueListTest, NonListsGiveEmptyAndTheErrorTraceWithoutRaising) {
     }
 }
 
-class ReplacementListTest : public ValueListTest {
-  protected:
-    static Variant Replacements(std::vector<Variant> pairs) {
-        pairs.insert(pairs.begin(), {Variant(), Variant("ignored")});
-        return MakeVariantArray(std::move(pairs));
-    }
-};
+// Replacement lists: pairs from index 2 on, whatever the first two elements hold.
+Variant Replacements(std::vector<Variant> pairs) {
+    pairs.insert(pairs.begin(), {Variant(), Variant("ignored")});
+    return MakeVariantArray(std::move(pairs));
+}
 
-TEST_F(ReplacementListTest, PairsStartAtIndexTwoAndKeysIgnoreCase) {
-    common.SetStringReplacementList(
-        Replacements({Variant("ID1234"), Variant("Sperren"), Variant("ID5"), Variant(int32_t{5})}));
+TEST_F(ValueListTest, ReplacementPairsStartAtIndexTwoIgnoreKeyCaseAndNeedText) {
+    EXPECT_EQ(common.ReplacementText("ID1234"), "");
+    common.SetStringReplacementList(Replacements(
+        {Variant("ID1234"), Variant("Sperren"), Variant("ID5"), Variant(int32_t{5}), Variant("ID2")}));
     EXPECT_EQ(common.ReplacementText("id1234"), "Sperren");
-    EXPECT_EQ(common.ReplacementText("ID5"), "");  // not text
-    EXPECT_EQ(common.ReplacementText("ID6"), "");
-    EXPECT_EQ(common.ReplacementText("ignored"), "");
+    for (const char* key : {"ID5", "ID6", "ignored", "ID2"})
+        EXPECT_EQ(common.ReplacementText(key), "") << key;
+    common.SetStringReplacementList(Replacements({}));
+    EXPECT_EQ(common.ReplacementText("ID1234"), "");
 }
 
-TEST_F(ReplacementListTest, TrailingKeyWithoutTextIsNotRead) {
-    common.SetStringReplacementList(Replacements({Variant("ID1"), Variant("one"), Variant("ID2")}));
-    EXPECT_EQ(common.ReplacementText("ID1"), "one");
-    EXPECT_EQ(common.ReplacementText("ID2"), "");
-}
-
-TEST_F(ReplacementListTest, EmptyKeepsTheEarlierList) {
+TEST_F(ValueListTest, EmptyOrWrongTypeKeepsTheEarlierReplacementList) {
     const Variant list = Replacements({Variant("ID1"), Variant("one")});
     common.SetStringReplacementList(list);
     common.SetStringReplacementList(Variant());
-    EXPECT_EQ(common.ReplacementText("ID1"), "one");
-    EXPECT_EQ(common.GetStringReplacementList(), list);
-}
-
-TEST_F(ReplacementListTest, WrongTypeShowsTheThreeLineMessageAndKeepsTheEarlierList) {
-    const Variant list = Replacements({Variant("ID1"), Variant("one")});
-    common.SetStringReplacementList(list);
+    EXPECT_TRUE(messageBox->shown.empty());
     common.SetStringReplacementList(Variant("ID1"));
     ASSERT_EQ(messageBox->shown.size(), 1u);
     EXPECT_EQ(messageBox->shown[0].text,
@@ -174,14 +130,13 @@ TEST_F(ReplacementListTest, WrongTypeShowsTheThreeLineMessageAndKeepsTheEarlierL
               "list type.");
     EXPECT_EQ(messageBox->shown[0].title, "TrovaneCommon");
     EXPECT_EQ(messageBox->shown[0].icon, MessageIcon::Critical);
+    common.SetStringReplacementList(MakeStringArray({"", "", "ID1", "x"}));  // a String() array too
+    EXPECT_EQ(messageBox->shown.size(), 2u);
     EXPECT_EQ(common.ReplacementText("ID1"), "one");
     EXPECT_EQ(common.GetStringReplacementList(), list);
-    common.SetStringReplacementList(
-        MakeStringArray({"", "", "ID1", "x"}));  // a String() array is the wrong type too
-    EXPECT_EQ(messageBox->shown.size(), 2u);
 }
 
-TEST_F(ReplacementListTest, DuplicateKeyRaises457AndKeepsThePairsBeforeIt) {
+TEST_F(ValueListTest, DuplicateReplacementKeyRaises457AndKeepsThePairsBeforeIt) {
     common.SetStringReplacementList(Replacements({Variant("ID9"), Variant("old")}));
     const Variant duplicate = Replacements(
         {Variant("ID1"), Variant("one"), Variant("id1"), Variant("again"), Variant("ID2"), Variant("two")});
@@ -189,12 +144,6 @@ TEST_F(ReplacementListTest, DuplicateKeyRaises457AndKeepsThePairsBeforeIt) {
     EXPECT_EQ(common.ReplacementText("ID1"), "one");
     EXPECT_EQ(common.ReplacementText("ID2"), "");
     EXPECT_EQ(common.ReplacementText("ID9"), "");  // the old collection was replaced
-}
-
-TEST_F(ReplacementListTest, NoListOrAnEmptyOneReplacesNothing) {
-    EXPECT_EQ(common.ReplacementText("ID1"), "");
-    common.SetStringReplacementList(Replacements({}));
-    EXPECT_EQ(common.ReplacementText("ID1"), "");
 }
 
 }  // namespace
