@@ -46,42 +46,38 @@ class BindingTest : public ::testing::Test {
     std::unique_ptr<FormView> view;
 };
 
-TEST_F(BindingTest, GeometryInTwipsIsScaledToPixels) {
-    form->Add<CommandButton>("btnOK").Move(150, 300, 1200, 375);
+TEST_F(BindingTest, GeometryInTwipsCaptionAndStateFollowTheModel) {
+    auto& model = form->Add<CommandButton>("btnOK");
+    model.Move(150, 300, 1200, 375);
     auto* button = WidgetOf<QPushButton>("btnOK");
     ASSERT_NE(button, nullptr);
     EXPECT_EQ(button->geometry(), QRect(10, 20, 80, 25));
     EXPECT_EQ(View().size(), QSize(400, 300));
-    form->Get<CommandButton>("btnOK").SetLeft(1500);
+    model.SetLeft(1500);
     EXPECT_EQ(button->x(), 100);
+    model.SetCaption("&Apply");
+    model.SetEnabled(false);
+    EXPECT_EQ(button->text(), "&Apply");
+    EXPECT_FALSE(button->isEnabled());
+    model.SetVisible(false);
+    EXPECT_TRUE(button->isHidden());
 }
 
-TEST_F(BindingTest, CaptionEnabledAndVisibleFollowTheModel) {
-    auto& button = form->Add<CommandButton>("btnOK");
-    auto* widget = WidgetOf<QPushButton>("btnOK");
-    button.SetCaption("&Apply");
-    button.SetEnabled(false);
-    EXPECT_EQ(widget->text(), "&Apply");
-    EXPECT_FALSE(widget->isEnabled());
-    button.SetVisible(false);
-    EXPECT_TRUE(widget->isHidden());
-}
-
-TEST_F(BindingTest, ButtonClickRaisesTheModelsClick) {
+TEST_F(BindingTest, ClicksAndDoubleClicksReachTheModel) {
     auto& button = form->Add<CommandButton>("btnOK");
     button.Move(0, 0, 1200, 375);
     int clicks = 0;
     button.onClick.Connect([&] { ++clicks; });
     QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton);
     EXPECT_EQ(clicks, 1);
-}
-
-TEST_F(BindingTest, GreyCheckBoxShowsPartlyChecked) {
-    auto& box = form->Add<CheckBox>("Check1");
-    box.SetValue(CheckBox::Grayed);
-    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::PartiallyChecked);
-    box.SetValue(CheckBox::Checked);
-    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Checked);
+    // A failing handler must not escape into Qt's event loop.
+    button.onClick.Connect([] { throw std::runtime_error("panel failure"); });
+    EXPECT_NO_THROW(QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton));
+    auto& label = form->Add<Label>("lblObject");
+    label.Move(0, 600, 1500, 300);
+    label.onDblClick.Connect([&] { ++clicks; });
+    QTest::mouseDClick(WidgetOf<QLabel>("lblObject"), Qt::LeftButton);
+    EXPECT_EQ(clicks, 3);
 }
 
 // Qt's own tristate cycle would go from partly checked to checked to unchecked; the widget shows
@@ -90,6 +86,7 @@ TEST_F(BindingTest, ClickingAGreyCheckBoxShowsWhatTheModelDecides) {
     auto& box = form->Add<CheckBox>("Check1");
     box.Move(0, 0, 1500, 300);
     box.SetValue(CheckBox::Grayed);
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::PartiallyChecked);
     int clicks = 0;
     box.onClick.Connect([&] { ++clicks; });
     ClickIndicator(WidgetOf<QCheckBox>("Check1"));
@@ -99,11 +96,7 @@ TEST_F(BindingTest, ClickingAGreyCheckBoxShowsWhatTheModelDecides) {
     ClickIndicator(WidgetOf<QCheckBox>("Check1"));
     EXPECT_EQ(box.Value(), CheckBox::Unchecked);
     EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
-}
-
-TEST_F(BindingTest, AHandlerThatSetsTheCheckBoxBackWins) {
-    auto& box = form->Add<CheckBox>("Check1");
-    box.Move(0, 0, 1500, 300);
+    // A handler that sets the box back wins.
     box.onClick.Connect([&] { box.SetValue(CheckBox::Unchecked); });
     ClickIndicator(WidgetOf<QCheckBox>("Check1"));
     EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
@@ -128,13 +121,19 @@ TEST_F(BindingTest, OptionButtonsOfOneFrameFormOneGroup) {
     EXPECT_EQ(WidgetOf<QRadioButton>("Opt_NCC")->parentWidget(), View().WidgetOf("Frame1"));
 }
 
-TEST_F(BindingTest, TypedCharactersGoThroughKeyPressAndMayBeDiscarded) {
+TEST_F(BindingTest, KeysArriveWithClassicCodesAndTypedCharactersMayBeDiscarded) {
     auto& text = form->Add<TextBox>("txtOpCntLimit");
     text.Move(0, 0, 1500, 300);
     // Digits only, as a numeric field would do.
     text.onKeyPress.Connect([](int16_t& character) {
         if (character != 8 && (character < '0' || character > '9')) character = 0;
     });
+    int changes = 0;
+    text.onChange.Connect([&] { ++changes; });
+    text.SetText("Hold");
+    EXPECT_EQ(WidgetOf<QLineEdit>("txtOpCntLimit")->text(), "Hold");
+    EXPECT_EQ(changes, 1) << "the model's own Change, not a second one from the widget";
+    text.SetText("");
     auto* edit = WidgetOf<QLineEdit>("txtOpCntLimit");
     edit->setFocus();
     QTest::keyClicks(edit, "1x2");
@@ -143,31 +142,17 @@ TEST_F(BindingTest, TypedCharactersGoThroughKeyPressAndMayBeDiscarded) {
     QTest::keyClick(edit, Qt::Key_Backspace);
     EXPECT_EQ(text.Text(), "1");
     EXPECT_EQ(edit->text(), "1");
-}
-
-TEST_F(BindingTest, KeysArriveWithClassicCodesAndShiftState) {
-    auto& text = form->Add<TextBox>("Text1");
-    text.Move(0, 0, 1500, 300);
     int16_t lastKey = 0;
     int16_t lastShift = 0;
     text.onKeyDown.Connect([&](int16_t& key, int16_t shift) {
         lastKey = key;
         lastShift = shift;
     });
-    QTest::keyClick(WidgetOf<QLineEdit>("Text1"), Qt::Key_Home, Qt::ShiftModifier);
+    QTest::keyClick(edit, Qt::Key_Home, Qt::ShiftModifier);
     EXPECT_EQ(lastKey, 36);
     EXPECT_EQ(lastShift, 1);
-    QTest::keyClick(WidgetOf<QLineEdit>("Text1"), Qt::Key_F2);
+    QTest::keyClick(edit, Qt::Key_F2);
     EXPECT_EQ(lastKey, 113);
-}
-
-TEST_F(BindingTest, ProgramTextShowsWithoutRaisingInput) {
-    auto& text = form->Add<TextBox>("Text1");
-    int changes = 0;
-    text.onChange.Connect([&] { ++changes; });
-    text.SetText("Hold");
-    EXPECT_EQ(WidgetOf<QLineEdit>("Text1")->text(), "Hold");
-    EXPECT_EQ(changes, 1);  // the model's own Change, not a second one from the widget
 }
 
 TEST_F(BindingTest, ComboBoxChoiceGoesToTheModel) {
@@ -199,7 +184,7 @@ TEST_F(BindingTest, TabClicksSelectTheModelsTab) {
     EXPECT_EQ(bar->currentIndex(), 1);
 }
 
-TEST_F(BindingTest, ControlsAddedLaterGetWidgets) {
+TEST_F(BindingTest, ControlsAddedLaterGetWidgetsAndTheFormFollowsShowAndUnload) {
     View();
     form->Add<Label>("lblOverFlow").SetCaption("Operation counter limit reached");
     auto* label = WidgetOf<QLabel>("lblOverFlow");
@@ -207,6 +192,11 @@ TEST_F(BindingTest, ControlsAddedLaterGetWidgets) {
     EXPECT_EQ(label->text(), "Operation counter limit reached");
     form->Remove(form->Get<Label>("lblOverFlow"));
     EXPECT_EQ(View().WidgetOf("lblOverFlow"), nullptr);
+    View().hide();
+    form->Show();
+    EXPECT_TRUE(View().isVisible());
+    form->Unload();
+    EXPECT_FALSE(View().isVisible());
 }
 
 TEST_F(BindingTest, TimerTicksTheModelWhileItRuns) {
@@ -222,13 +212,6 @@ TEST_F(BindingTest, TimerTicksTheModelWhileItRuns) {
     EXPECT_EQ(ticks, stopped);
 }
 
-TEST_F(BindingTest, AFailingHandlerDoesNotEscapeIntoQt) {
-    auto& button = form->Add<CommandButton>("btnOK");
-    button.Move(0, 0, 1200, 375);
-    button.onClick.Connect([] { throw std::runtime_error("panel failure"); });
-    EXPECT_NO_THROW(QTest::mouseClick(WidgetOf<QPushButton>("btnOK"), Qt::LeftButton));
-}
-
 TEST_F(BindingTest, EnterAndEscapePressTheDefaultAndCancelButtons) {
     auto& ok = form->Add<CommandButton>("btnOK");
     auto& cancel = form->Add<CommandButton>("btnCancel");
@@ -242,23 +225,6 @@ TEST_F(BindingTest, EnterAndEscapePressTheDefaultAndCancelButtons) {
     QTest::keyClick(&View(), Qt::Key_Escape);
     EXPECT_EQ(oks, 1);
     EXPECT_EQ(cancels, 1);
-}
-
-TEST_F(BindingTest, DoubleClickReachesTheModel) {
-    auto& label = form->Add<Label>("lblObject");
-    label.Move(0, 0, 1500, 300);
-    int doubleClicks = 0;
-    label.onDblClick.Connect([&] { ++doubleClicks; });
-    QTest::mouseDClick(WidgetOf<QLabel>("lblObject"), Qt::LeftButton);
-    EXPECT_EQ(doubleClicks, 1);
-}
-
-TEST_F(BindingTest, AWindowFormFollowsShowAndUnload) {
-    View().hide();
-    form->Show();
-    EXPECT_TRUE(View().isVisible());
-    form->Unload();
-    EXPECT_FALSE(View().isVisible());
 }
 
 }  // namespace

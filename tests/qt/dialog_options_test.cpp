@@ -11,16 +11,6 @@ ParsedOptions Parse(std::vector<const char*> arguments) {
     return ParseDialogOptions(arguments);
 }
 
-TEST(DialogOptions, DefaultsToObjectAbcIndexTenWithAllRights) {
-    const ParsedOptions parsed = Parse({});
-    EXPECT_TRUE(parsed.error.empty());
-    EXPECT_EQ(parsed.options.objectName, "ABC");
-    EXPECT_EQ(parsed.options.index, 10);
-    EXPECT_FALSE(parsed.options.scenarioFile);
-    EXPECT_TRUE(parsed.options.rights.blockingHandling);
-    EXPECT_FALSE(parsed.options.trace);
-}
-
 TEST(DialogOptions, ReadsEveryOptionInBothForms) {
     const ParsedOptions parsed = Parse({"--object", "DEF", "--index=-2", "--scenario", "s.json", "--user",
                                         "anna", "--language", "DE", "--trace", "--screenshot", "out.png"});
@@ -34,7 +24,7 @@ TEST(DialogOptions, ReadsEveryOptionInBothForms) {
     EXPECT_EQ(*parsed.options.screenshotFile, "out.png");
 }
 
-TEST(DialogOptions, RightsListGrantsOnlyWhatItNames) {
+TEST(DialogOptions, RightsGrantOnlyWhatTheyNameAndBadInputIsAClearError) {
     const ParsedOptions parsed = Parse({"--rights", "authorized,alarms"});
     ASSERT_TRUE(parsed.error.empty());
     EXPECT_TRUE(parsed.options.rights.authorized);
@@ -42,15 +32,14 @@ TEST(DialogOptions, RightsListGrantsOnlyWhatItNames) {
     EXPECT_FALSE(parsed.options.rights.blockingHandling);
     EXPECT_FALSE(parsed.options.rights.engineer);
     EXPECT_FALSE(Parse({"--rights", "none"}).options.rights.authorized);
-}
-
-TEST(DialogOptions, BadInputIsAClearError) {
-    EXPECT_NE(Parse({"--index", "ten"}).error.find("--index"), std::string::npos);
-    EXPECT_NE(Parse({"--index", "10x"}).error.find("--index"), std::string::npos);
-    EXPECT_NE(Parse({"--rights", "admin"}).error.find("--rights"), std::string::npos);
-    EXPECT_NE(Parse({"--object"}).error.find("needs a value"), std::string::npos);
-    EXPECT_NE(Parse({"--colour", "red"}).error.find("unknown option"), std::string::npos);
-    EXPECT_NE(Parse({"stray"}).error.find("unexpected"), std::string::npos);
+    for (const auto& [arguments, message] : std::vector<std::pair<std::vector<const char*>, const char*>>{
+             {{"--index", "ten"}, "--index"},
+             {{"--index", "10x"}, "--index"},
+             {{"--rights", "admin"}, "--rights"},
+             {{"--object"}, "needs a value"},
+             {{"--colour", "red"}, "unknown option"},
+             {{"stray"}, "unexpected"}})
+        EXPECT_NE(Parse(arguments).error.find(message), std::string::npos) << message;
 }
 
 }  // namespace

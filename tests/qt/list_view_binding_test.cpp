@@ -62,14 +62,11 @@ TEST_F(ListViewBindingTest, ColumnsRowsAndIconsAreShown) {
     EXPECT_FALSE(tree->topLevelItem(0)->icon(0).isNull());
 }
 
-TEST_F(ListViewBindingTest, GhostedRowsAreGreyed) {
+TEST_F(ListViewBindingTest, GhostedRowsRowChangesAndRebuildsFollowTheModel) {
     list.Item(2).SetGhosted(true);
     const QColor grey = tree->palette().color(QPalette::Disabled, QPalette::Text);
     EXPECT_EQ(tree->topLevelItem(1)->foreground(1).color(), grey);
     EXPECT_NE(tree->topLevelItem(0)->foreground(1).color(), grey);
-}
-
-TEST_F(ListViewBindingTest, RowChangesAndRebuildsFollowTheModel) {
     list.Item(1).SetSubItem(2, "Acknowledged");
     EXPECT_EQ(tree->topLevelItem(0)->text(2), "Acknowledged");
     list.ClearItems();
@@ -105,7 +102,7 @@ TEST_F(ListViewBindingTest, NavigationKeysMoveTheModelsSelection) {
     EXPECT_EQ(list.SelectedItem()->Index(), 3);
 }
 
-TEST_F(ListViewBindingTest, ProgramSelectionIsShownWithoutEvents) {
+TEST_F(ListViewBindingTest, ProgramSelectionIsShownWithoutEventsAndDisabledListIgnoresClicks) {
     int clicks = 0;
     list.onClick.Connect([&] { ++clicks; });
     list.SelectItem(&list.Item(3));
@@ -113,12 +110,9 @@ TEST_F(ListViewBindingTest, ProgramSelectionIsShownWithoutEvents) {
     list.SelectItem(nullptr);
     EXPECT_TRUE(tree->selectedItems().isEmpty());
     EXPECT_EQ(clicks, 0);
-}
-
-TEST_F(ListViewBindingTest, ADisabledListIgnoresClicks) {
     list.SetEnabled(false);
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, CentreOfRow(0));
-    EXPECT_EQ(list.SelectedItem(), nullptr);
+    EXPECT_EQ(list.SelectedItem(), nullptr) << "a disabled list ignores clicks";
 }
 
 }  // namespace

@@ -12,22 +12,16 @@
 #include "qt/notification_pump.h"
 #include "qt/qt_window_system.h"
 #include "qt/twips.h"
+#include "support/manual_clock.h"
 #include "support/qt_application.h"
 
 namespace trovane::qt {
 namespace {
 
-class FixedClock final : public Clock {
-  public:
-    Date Now() override { return Date{}; }
-    uint32_t TickCount() override { return ticks; }
-    uint32_t ticks = 5000;
-};
-
 class QtWindowSystemTest : public ::testing::Test {
   protected:
     QtWindowSystemTest() { trovane::testing::TestApplication(); }
-    std::shared_ptr<FixedClock> clock = std::make_shared<FixedClock>();
+    std::shared_ptr<trovane::testing::ManualClock> clock = std::make_shared<trovane::testing::ManualClock>();
     std::shared_ptr<InputActivity> activity = std::make_shared<InputActivity>(clock);
     QtWindowSystem windows{activity};
 };
@@ -50,15 +44,13 @@ TEST_F(QtWindowSystemTest, HandlesAreStablePerWindowAndZeroIsNoWindow) {
     EXPECT_EQ(windows.WindowOf(handle), &frame);
     EXPECT_EQ(windows.WindowOf(0), nullptr);
     EXPECT_EQ(windows.HandleOf(nullptr), 0);
-}
-
-TEST_F(QtWindowSystemTest, ForgetsAWindowThatIsGone) {
+    // A window that is gone is forgotten and never touched.
     auto dialog = std::make_unique<QDialog>();
-    const int32_t handle = windows.HandleOf(dialog.get());
+    const int32_t gone = windows.HandleOf(dialog.get());
     dialog.reset();
-    EXPECT_EQ(windows.WindowOf(handle), nullptr);
-    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 3);  // must not touch the dead window
-    EXPECT_EQ(windows.GetWindowLong(handle, -20), 0);
+    EXPECT_EQ(windows.WindowOf(gone), nullptr);
+    windows.SetWindowPos(gone, -1, 0, 0, 0, 0, 3);
+    EXPECT_EQ(windows.GetWindowLong(gone, -20), 0);
 }
 
 TEST_F(QtWindowSystemTest, OwnerSlotMakesTheFrameTheOwnerAndKeepsTheDialogATopLevelWindow) {
@@ -75,17 +67,11 @@ TEST_F(QtWindowSystemTest, OwnerSlotMakesTheFrameTheOwnerAndKeepsTheDialogATopLe
 TEST_F(QtWindowSystemTest, TopmostBandIsTheStaysOnTopHint) {
     QWidget frame;
     const int32_t handle = windows.HandleOf(&frame);
+    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 1 | 2 | 4 | 32);  // no z-order change
     EXPECT_EQ(windows.GetWindowLong(handle, -20) & 8, 0);
     windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 3);
     EXPECT_EQ(windows.GetWindowLong(handle, -20) & 8, 8);
     EXPECT_TRUE(frame.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
-}
-
-TEST_F(QtWindowSystemTest, NoZOrderFlagLeavesTheBandAlone) {
-    QWidget frame;
-    const int32_t handle = windows.HandleOf(&frame);
-    windows.SetWindowPos(handle, -1, 0, 0, 0, 0, 1 | 2 | 4 | 32);
-    EXPECT_EQ(windows.GetWindowLong(handle, -20), 0);
 }
 
 TEST_F(QtWindowSystemTest, MoveAndSizeUnlessTheFlagsSayNot) {
@@ -135,18 +121,14 @@ TEST(NotificationPump, DeliversOnTheEventLoopAndNeverInsideItself) {
     });
     pump->DeliverNow();
     EXPECT_EQ(deliveries, 1);
-}
-
-TEST(NotificationPump, AFailingCallbackDoesNotEscapeIntoTheEventLoop) {
-    trovane::testing::TestApplication();
-    int deliveries = 0;
-    NotificationPump pump([&] {
+    // A failing callback does not escape into the event loop.
+    NotificationPump failing([&] {
         ++deliveries;
         throw std::runtime_error("bad notification");
     });
-    EXPECT_NO_THROW(pump.DeliverNow());
-    EXPECT_NO_THROW(pump.DeliverNow());
-    EXPECT_EQ(deliveries, 2);
+    EXPECT_NO_THROW(failing.DeliverNow());
+    EXPECT_NO_THROW(failing.DeliverNow());
+    EXPECT_EQ(deliveries, 3);
 }
 
 TEST(NotificationPump, TimerTicksDeliver) {

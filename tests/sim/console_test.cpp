@@ -43,10 +43,7 @@ TEST(ConsoleTest, FailedCommandPrintsItsStatusAndName) {
     const Session session = RunSession({"#return do(BGU_BLOCK:C", "#return 10"});
     EXPECT_EQ(session.exitCode, 1);
     EXPECT_EQ(session.out, "!status 2001 VEXL_SYNTAX_ERROR\n10\n");
-}
-
-TEST(ConsoleTest, CommandWithLineFeedsIsOneCommand) {
-    EXPECT_EQ(RunSession({"@x=\"ABC\"\n#return %x + \"D\""}).out, "\"ABCD\"\n");
+    EXPECT_EQ(RunSession({"@x=\"ABC\"\n#return %x + \"D\""}).out, "\"ABCD\"\n") << "one command, two lines";
 }
 
 TEST(ConsoleTest, StandardInputIsReadLineByLineWithoutCommands) {

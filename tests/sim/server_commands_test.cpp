@@ -20,61 +20,51 @@ std::vector<int32_t> Longs(const Variant& vector) {
     return values;
 }
 
-TEST_F(ServerCommandsTest, PathOfTheApplicationLeavesTheRootWhenFourCharactersAreCut) {
+std::string Blocking(const std::string& request, int32_t index, const std::string& values,
+                     const std::string& mode) {
+    return "#return do(BGU_BLOCK:C, \"" + request + "\", (\"ABC\"," + std::to_string(index) + "), " + values +
+           ", \"" + mode + "\")";
+}
+
+std::string Substitute(int32_t index, const std::string& enabled, const std::string& value) {
+    return "#return do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"E01_CTRL\","
+           "LOGICAL_NODE=\"XCBR1\",DATA_OBJECT=\"Pos\",DATA_ATTRIBUTE=\"stVal\",LN=\"ABC\",IX=" +
+           std::to_string(index) + ",ENABLED=" + enabled + ",VALUE=" + value + ",QUALITY=0))";
+}
+
+TEST_F(ServerCommandsTest, ApplicationPathsComeFromTheRootAndTheApplicationName) {
     const Variant answer = Run("#return PATH(\"APL_\")");
     ASSERT_EQ(TypeName(answer), "String()");
     const std::string path = answer.AsArray().At(answer.AsArray().LowerBound()).AsString();
     ASSERT_GE(path.size(), 4u);
     EXPECT_EQ(path.substr(0, path.size() - 4), "C:\\sc\\apl\\DEMO\\");
-}
-
-TEST_F(ServerCommandsTest, IconDirectoriesComeFromTheRootAndTheApplicationName) {
     EXPECT_EQ(Run("#return fm_represent(fm_vexl_directory(\"/\"))"), Variant("C:\\sc"));
     EXPECT_EQ(Run("#return APL:BNA"), Variant("DEMO"));
 }
 
-TEST_F(ServerCommandsTest, CommentTimeConvertsToSixDateParts) {
+TEST_F(ServerCommandsTest, CommentTimeReadsAsSixPartsAndWriteSplicesTheTime) {
     const std::string comment = Run("#return ABC:PGC").AsString();
     const std::string time =
         comment.substr(comment.find('#') + 1, comment.rfind('#') - comment.find('#') - 1);
     const Variant parts = Run("@t=type_cast(" + time + ",\"TIME\")\n" +
                               "#return (year(%t),month(%t),day(%t),hour(%t),minute(%t),second(%t))");
     EXPECT_EQ(Longs(parts), (std::vector<int32_t>{2026, 11, 20, 7, 45, 0}));
-}
 
-TEST_F(ServerCommandsTest, CommentWriteSplicesTheTimeAndRebuildsLineBreaks) {
-    const std::string command =
-        "@TIME_STRING=type_cast(pack_time(2026,11,22,9,30,15),\"INTEGER\")\n"
-        "#SET ABC:PGC=\"operator2#'TIME_STRING'#It''s \"\"new\"\"\" + ascii(10) + \"second line\"";
-    Run(command);
+    Run("@TIME_STRING=type_cast(pack_time(2026,11,22,9,30,15),\"INTEGER\")\n"
+        "#SET ABC:PGC=\"operator2#'TIME_STRING'#It''s \"\"new\"\"\" + ascii(10) + \"second line\"");
     const int32_t seconds = SecondsFromTime(MakeDate(2026, 11, 22, 9, 30, 15));
     EXPECT_EQ(Run("#return ABC:PGC"),
               Variant("operator2#" + std::to_string(seconds) + "#It's \"new\"\nsecond line"));
 }
 
-TEST_F(ServerCommandsTest, FailedWriteStatusHasAName) {
-    int32_t status = 0;
-    RunWithStatus("#SET NOSUCH:PGC=\"x\"", status);
-    ASSERT_NE(status, 0);
-    EXPECT_EQ(Run("#return status_code_name(" + std::to_string(status) + ")"),
-              Variant("VEXL_UNKNOWN_OBJECT"));
-}
-
-TEST_F(ServerCommandsTest, AlarmListHasOneFiveElementVectorPerSignal) {
+TEST_F(ServerCommandsTest, AlarmListHasOneFiveElementVectorPerSignalAndEveryState) {
     const Variant list = Run("#return do(BGU_ALARMS:C, \"GET_ALARM_LIST\", (\"ABC\",10))");
     const Variant& combo = Item(list, "COMBO_LIST");
     ASSERT_TRUE(IsVexlVector(combo));
     ASSERT_EQ(combo.AsArray().Size(), Database().FindGroup("ABC")->objects.size());
-    const Variant& first = combo.AsArray().At(1);
-    ASSERT_EQ(first.AsArray().LowerBound(), 1);
-    EXPECT_EQ(first.AsArray().At(1), Variant("ABC"));
-    EXPECT_EQ(first.AsArray().At(2), Variant(int32_t{10}));
-    EXPECT_EQ(first.AsArray().At(3), Variant("Circuit breaker Q0"));
-    EXPECT_EQ(first.AsArray().At(4), Variant("NORMAL"));
-    EXPECT_EQ(first.AsArray().At(5), Variant(false));
-}
-
-TEST_F(ServerCommandsTest, DemoShowsEveryAlarmState) {
+    EXPECT_EQ(combo.AsArray().At(1),
+              MakeVexlVector({Variant("ABC"), Variant(int32_t{10}), Variant("Circuit breaker Q0"),
+                              Variant("NORMAL"), Variant(false)}));
     std::set<std::string> keywords;
     for (const auto& [index, object] : Database().FindGroup("ABC")->objects)
         keywords.insert(AlarmOf(object).keyword);
@@ -94,107 +84,95 @@ TEST_F(ServerCommandsTest, AcknowledgementClearsTheFlagAndMovesTheAlarmTime) {
 
 TEST_F(ServerCommandsTest, EnabledBlockingsAreAListOfSixKeywords) {
     const Variant answer = Run("#return do(BGU_BLOCK:C, \"GET_ENABLED_BLOCKINGS\", (\"ABC\",18))");
-    EXPECT_EQ(Item(answer, "UPDATE"), Variant("ENABLED"));
-    EXPECT_EQ(Item(answer, "CONTROL"), Variant("DISABLED"));
-    EXPECT_EQ(Item(answer, "ALARM"), Variant("ENABLED"));
-    EXPECT_EQ(Item(answer, "EVENT"), Variant("ENABLED"));
-    EXPECT_EQ(Item(answer, "PRINTOUT"), Variant("ENABLED"));
-    EXPECT_EQ(Item(answer, "ACTION"), Variant("DISABLED"));
+    const std::pair<const char*, const char*> expected[] = {{"UPDATE", "ENABLED"},   {"CONTROL", "DISABLED"},
+                                                            {"ALARM", "ENABLED"},    {"EVENT", "ENABLED"},
+                                                            {"PRINTOUT", "ENABLED"}, {"ACTION", "DISABLED"}};
+    for (const auto& [kind, state] : expected) EXPECT_EQ(Item(answer, kind), Variant(state)) << kind;
 }
 
-TEST_F(ServerCommandsTest, BlockingStateOfTheWholeObjectGreysMixedKinds) {
-    const Variant state =
-        Run("#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\",10), Vector(), \"APPLY_TO_ALL\")");
+TEST_F(ServerCommandsTest, BlockingReadGreysMixedKindsAndWritesShowInTheNextRead) {
+    const std::string read = Blocking("GET_BLOCKING_STATE", 10, "Vector()", "APPLY_TO_ALL");
+    const Variant state = Run(read);
     ASSERT_EQ(TypeName(state), "Long()");
     EXPECT_EQ(state.AsArray().LowerBound(), 1);
     EXPECT_EQ(Longs(state), (std::vector<int32_t>{0, 0, 2, 0, 0, 0}));
-}
 
-TEST_F(ServerCommandsTest, BlockingWriteChangesTheNextRead) {
-    Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",10), (0,1,0,0,0,0), \"APPLY_TO_ALL\")");
-    EXPECT_EQ(
-        Longs(
-            Run("#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\",10), Vector(), \"APPLY_TO_ALL\")")),
-        (std::vector<int32_t>{0, 1, 0, 0, 0, 0}));
+    // Grey in a write keeps each signal's kind as it is.
+    Run(Blocking("SET_BLOCKING_STATE", 10, "(1,0,2,0,0,0)", "APPLY_TO_ALL"));
+    EXPECT_EQ(Attribute("ABC", 16, "AB"), 1);
+    EXPECT_EQ(Attribute("ABC", 17, "AB"), 0);
+
+    Run(Blocking("SET_BLOCKING_STATE", 10, "(0,1,0,0,0,0)", "APPLY_TO_ALL"));
+    EXPECT_EQ(Longs(Run(read)), (std::vector<int32_t>{0, 1, 0, 0, 0, 0}));
     EXPECT_EQ(Attribute("ABC", 17, "CB"), 1);
     EXPECT_EQ(Attribute("ABC", 11, "CB"), 0) << "control blocking is disabled for indications";
     EXPECT_EQ(Attribute("ABC", 16, "AB"), 0);
 }
 
 TEST_F(ServerCommandsTest, SelectedSignalBlockingLeavesTheOtherSignals) {
-    Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",11), (1,0,1,0,0,0), "
-        "\"APPLY_TO_SELECTED\")");
-    EXPECT_EQ(Longs(Run("#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\",11), Vector(), "
-                        "\"APPLY_TO_SELECTED\")")),
+    Run(Blocking("SET_BLOCKING_STATE", 11, "(1,0,1,0,0,0)", "APPLY_TO_SELECTED"));
+    EXPECT_EQ(Longs(Run(Blocking("GET_BLOCKING_STATE", 11, "Vector()", "APPLY_TO_SELECTED"))),
               (std::vector<int32_t>{1, 0, 1, 0, 0, 0}));
     EXPECT_EQ(Attribute("ABC", 12, "UB"), 0);
     EXPECT_EQ(AlarmOf(Object("ABC", 11)).keyword, "BLOCKED");
 }
 
-TEST_F(ServerCommandsTest, GreyInAWriteKeepsTheKindAsItIs) {
-    Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",10), (1,0,2,0,0,0), \"APPLY_TO_ALL\")");
-    EXPECT_EQ(Attribute("ABC", 16, "AB"), 1);
-    EXPECT_EQ(Attribute("ABC", 17, "AB"), 0);
-}
-
-TEST_F(ServerCommandsTest, MalformedBlockingRequestsFailWithAStatus) {
-    for (const char* command : {
-             "#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\",10), Vector(), \"APPLY_TO_SOME\")",
-             "#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",10), (0,1), \"APPLY_TO_ALL\")",
-             "#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\",99), Vector(), \"APPLY_TO_ALL\")",
-             "#return do(BGU_BLOCK:C, \"NO_SUCH_REQUEST\")",
-             "#return do(BGU_BLOCK:C)",
+TEST_F(ServerCommandsTest, MalformedOrRefusedCommandsFailWithAStatus) {
+    for (const std::string& command : {
+             Blocking("GET_BLOCKING_STATE", 10, "Vector()", "APPLY_TO_SOME"),
+             Blocking("SET_BLOCKING_STATE", 10, "(0,1)", "APPLY_TO_ALL"),
+             Blocking("GET_BLOCKING_STATE", 99, "Vector()", "APPLY_TO_ALL"),
+             std::string("#return do(BGU_BLOCK:C, \"NO_SUCH_REQUEST\")"),
+             std::string("#return do(BGU_BLOCK:C)"),
+             std::string("#SET ABC:PCL10=0"),
+             std::string("#SET ABC:PCL10=-5"),
+             std::string("#SET ABC:PCL10=\"abc\""),
+             std::string("#SET ABC:PPT10=3"),
+             std::string("#SET ABC:PCO10=0"),
+             std::string("#return ABC:PZZ10"),
+             std::string("#SET ABC:POV10=7"),
          }) {
         int32_t status = 0;
         EXPECT_TRUE(RunWithStatus(command, status).IsEmpty()) << command;
         EXPECT_NE(status, 0) << command;
     }
+    EXPECT_EQ(Attribute("ABC", 10, "CL"), 1000);
 }
 
-TEST_F(ServerCommandsTest, SubstitutionListDescribesEverySignal) {
+TEST_F(ServerCommandsTest, SubstitutionListDescribesEverySignalOrOnlyTheSelectedOne) {
     const Variant answer = Run("#return do(BGU_CONTROL:C, (\"ABC\",10),\"GET_SUBSTITUTION\",\"en\",False)");
     EXPECT_EQ(Item(answer, "STATUS"), Variant(int32_t{0}));
     const Variant& signals = Item(answer, "SIGNALS");
     ASSERT_EQ(signals.AsArray().Size(), 10u);
     const Variant& breaker = signals.AsArray().At(1);
     EXPECT_EQ(Item(breaker, "TX"), Variant("Circuit breaker Q0"));
-    EXPECT_EQ(Item(breaker, "PT"), Variant(int32_t{12}));
     EXPECT_EQ(Item(breaker, "OV"), Variant(int32_t{2}));
     EXPECT_EQ(TypeName(Item(breaker, "STATE_TEXTS")), "String()");
     EXPECT_EQ(Item(breaker, "STATE_TEXTS").AsArray().Size(), 4u);
-    EXPECT_EQ(Item(breaker, "LOGICAL_NODE"), Variant("XCBR1"));
-    EXPECT_EQ(Item(breaker, "LN"), Variant("ABC"));
     EXPECT_EQ(Item(breaker, "IX"), Variant(int32_t{10}));
-}
 
-TEST_F(ServerCommandsTest, SingleSignalSubstitutionListsOnlyThatSignal) {
-    const Variant answer = Run("#return do(BGU_CONTROL:C, (\"ABC\",15),\"GET_SUBSTITUTION\",\"en\",True)");
-    const Variant& signals = Item(answer, "SIGNALS");
-    ASSERT_EQ(signals.AsArray().Size(), 1u);
-    EXPECT_EQ(Item(signals.AsArray().At(1), "MIN"), Variant(0.0));
-    EXPECT_EQ(Item(signals.AsArray().At(1), "MAX"), Variant(1000.0));
-}
+    const Variant single = Run("#return do(BGU_CONTROL:C, (\"ABC\",15),\"GET_SUBSTITUTION\",\"en\",True)");
+    const Variant& one = Item(single, "SIGNALS");
+    ASSERT_EQ(one.AsArray().Size(), 1u);
+    EXPECT_EQ(Item(one.AsArray().At(1), "MIN"), Variant(0.0));
+    EXPECT_EQ(Item(one.AsArray().At(1), "MAX"), Variant(1000.0));
 
-TEST_F(ServerCommandsTest, SubstitutionOfAnUnknownObjectAnswersStatusMinusOne) {
-    const Variant answer = Run("#return do(BGU_CONTROL:C, (\"ABC\",99),\"GET_SUBSTITUTION\",\"en\",True)");
-    EXPECT_EQ(Item(answer, "STATUS"), Variant(int32_t{-1}));
-    EXPECT_TRUE(Item(answer, "MESSAGE").IsString());
+    const Variant unknown = Run("#return do(BGU_CONTROL:C, (\"ABC\",99),\"GET_SUBSTITUTION\",\"en\",True)");
+    EXPECT_EQ(Item(unknown, "STATUS"), Variant(int32_t{-1}));
+    EXPECT_TRUE(Item(unknown, "MESSAGE").IsString());
 }
 
 TEST_F(ServerCommandsTest, SubstitutionSetsAndReleasesTheValue) {
-    const std::string set =
-        "#return do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"E01_CTRL\","
-        "LOGICAL_NODE=\"XCBR1\",DATA_OBJECT=\"Pos\",DATA_ATTRIBUTE=\"stVal\",LN=\"ABC\",IX=15,ENABLED=1,"
-        "VALUE=12.5,QUALITY=0))";
-    EXPECT_EQ(Item(Run(set), "STATUS"), Variant(int32_t{0}));
+    EXPECT_EQ(Item(Run(Substitute(15, "1", "12.5")), "STATUS"), Variant(int32_t{0}));
     EXPECT_EQ(*Object("ABC", 15).Find("OV"), Variant(12.5));
     EXPECT_EQ(Attribute("ABC", 15, "SB"), 1);
-
-    std::string release = set;
-    release.replace(release.find("ENABLED=1"), 9, "ENABLED=0");
-    Run(release);
+    Run(Substitute(15, "0", "12.5"));
     EXPECT_EQ(*Object("ABC", 15).Find("OV"), Variant(312.5));
     EXPECT_EQ(Attribute("ABC", 15, "SB"), 0);
+    // Substituting the breaker counts no operation.
+    Run(Substitute(10, "1", "1"));
+    EXPECT_EQ(Attribute("ABC", 10, "OV"), 1);
+    EXPECT_EQ(Attribute("ABC", 10, "CV"), 998);
 }
 
 TEST_F(ServerCommandsTest, InvalidSubstituteAnswersStatusMinusOneAndChangesNothing) {
@@ -207,20 +185,11 @@ TEST_F(ServerCommandsTest, InvalidSubstituteAnswersStatusMinusOneAndChangesNothi
     EXPECT_EQ(Attribute("ABC", 11, "SB"), 0);
 }
 
-TEST_F(ServerCommandsTest, SubstitutingTheBreakerCountsNoOperation) {
-    Run("#return do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"E01_CTRL\","
-        "LOGICAL_NODE=\"XCBR1\",DATA_OBJECT=\"Pos\",DATA_ATTRIBUTE=\"stVal\",LN=\"ABC\",IX=10,ENABLED=1,"
-        "VALUE=1,QUALITY=0))");
-    EXPECT_EQ(Attribute("ABC", 10, "OV"), 1);
-    EXPECT_EQ(Attribute("ABC", 10, "CV"), 998);
-}
-
 TEST_F(ServerCommandsTest, OperationCounterCommandsOfTheDoubleBinaryBreaker) {
     EXPECT_EQ(Run("#RETURN ABC:PPT"), Variant(int32_t{12}));
     const Variant info = Run("#return do(BGU_CONTROL:C, (\"ABC\",10),\"GET_EXTRA_INFO\")");
     EXPECT_EQ(Item(info, "CV"), Variant(int32_t{998}));
     EXPECT_EQ(Item(info, "CL"), Variant(int32_t{1000}));
-
     Run("#SET ABC:PCL10=998");
     EXPECT_EQ(Attribute("ABC", 10, "CO"), 1);
     Run("#SET ABC:PCV10=0");
@@ -234,24 +203,6 @@ TEST_F(ServerCommandsTest, BreakerOperationsCountUpToTheLimit) {
     Run("#SET ABC:POV10=2");
     EXPECT_EQ(Attribute("ABC", 10, "CV"), 1000);
     EXPECT_EQ(Attribute("ABC", 10, "CO"), 1);
-}
-
-TEST_F(ServerCommandsTest, RefusedCounterLimitFailsTheCommand) {
-    for (const char* command : {"#SET ABC:PCL10=0", "#SET ABC:PCL10=-5", "#SET ABC:PCL10=\"abc\""}) {
-        int32_t status = 0;
-        RunWithStatus(command, status);
-        EXPECT_NE(status, 0) << command;
-    }
-    EXPECT_EQ(Attribute("ABC", 10, "CL"), 1000);
-}
-
-TEST_F(ServerCommandsTest, ReadOnlyAndUnknownAttributesFail) {
-    for (const char* command :
-         {"#SET ABC:PPT10=3", "#SET ABC:PCO10=0", "#return ABC:PZZ10", "#SET ABC:POV10=7"}) {
-        int32_t status = 0;
-        RunWithStatus(command, status);
-        EXPECT_NE(status, 0) << command;
-    }
 }
 
 TEST_F(ServerCommandsTest, ConnectionRefusesAnotherApplicationAndWhenNotReady) {

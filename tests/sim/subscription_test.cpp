@@ -12,7 +12,8 @@ namespace {
 
 class SubscriptionTest : public DemoServerTest {
   protected:
-    int32_t Subscribe(std::vector<std::string> paths, Variant* results = nullptr) {
+    // Subscribes with client handles 1, 2, ...; quietly consumes the initial values.
+    int32_t Subscribe(std::vector<std::string> paths, bool quietly = true, Variant* results = nullptr) {
         std::vector<int32_t> handles;
         for (size_t i = 0; i < paths.size(); ++i) handles.push_back(static_cast<int32_t>(i) + 1);
         int32_t handle = 0;
@@ -20,21 +21,24 @@ class SubscriptionTest : public DemoServerTest {
         connection->AddItems(MakeLongArray(handles, 1), MakeStringArray(paths, 1), 200, handle, itemResults);
         connection->SetCallback(&callback, handle);
         if (results) *results = itemResults;
-        return handle;
-    }
-    // Subscribes and consumes the initial values.
-    int32_t SubscribeQuietly(std::vector<std::string> paths) {
-        const int32_t handle = Subscribe(std::move(paths));
-        connection->Pump();
-        callback.notifications.clear();
+        if (quietly) {
+            connection->Pump();
+            callback.notifications.clear();
+        }
         return handle;
     }
 
     trovane::testing::RecordingDataCallback callback;
 };
 
-TEST_F(SubscriptionTest, NewSubscriptionDeliversTheCurrentValuesOnThePump) {
-    Subscribe({"\\\\APL\\1\\P\\ABC:GC", "\\\\APL\\1\\P\\ABC\\10:CV"});
+TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePump) {
+    int32_t handle = 0;
+    Variant results;
+    connection->AddItems(MakeLongArray({1, 2}, 1),
+                         MakeStringArray({"\\\\APL\\1\\P\\ABC:GC", "\\\\APL\\1\\P\\ABC\\10:CV"}, 1), 200,
+                         handle, results);
+    EXPECT_EQ(connection->Pump(), 0);
+    connection->SetCallback(&callback, handle);
     EXPECT_TRUE(callback.notifications.empty());
     EXPECT_EQ(connection->Pump(), 2);
     EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(int32_t{998})});
@@ -43,7 +47,7 @@ TEST_F(SubscriptionTest, NewSubscriptionDeliversTheCurrentValuesOnThePump) {
 }
 
 TEST_F(SubscriptionTest, SetNotifiesItsSubscriberOnceAfterThePumpWithTheNewValue) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC:GC"});
+    Subscribe({"\\\\APL\\1\\P\\ABC:GC"});
     Run("#SET ABC:PGC=\"operator2#1#new\"");
     EXPECT_TRUE(callback.notifications.empty()) << "never inside ExecuteCommand";
     connection->Pump();
@@ -52,79 +56,61 @@ TEST_F(SubscriptionTest, SetNotifiesItsSubscriberOnceAfterThePumpWithTheNewValue
     EXPECT_EQ(callback.notifications.size(), 1u);
 }
 
-TEST_F(SubscriptionTest, TwoWritesBeforeAPumpDeliverTheLastValueOnce) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC\\10:CL"});
+TEST_F(SubscriptionTest, WritesBeforeAPumpCoalesceAndUnchangedValuesNotifyNothing) {
+    Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
+    Run("#SET ABC:PCL10=1000");
+    EXPECT_EQ(connection->Pump(), 0);
     Run("#SET ABC:PCL10=1200");
     Run("#SET ABC:PCL10=1500");
     connection->Pump();
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1500})});
 }
 
-TEST_F(SubscriptionTest, WriteOfAnUnchangedValueNotifiesNothing) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC\\10:CL"});
-    Run("#SET ABC:PCL10=1000");
-    EXPECT_EQ(connection->Pump(), 0);
-}
-
-TEST_F(SubscriptionTest, DerivedAttributesNotifyToo) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC\\10:CO", "\\\\APL\\1\\P\\ABC\\10:CV"});
+TEST_F(SubscriptionTest, DerivedAndMainObjectItemsFollowTheirSource) {
+    Subscribe({"\\\\APL\\1\\P\\ABC\\10:CO", "\\\\APL\\1\\P\\ABC\\10:CV", "\\\\APL\\1\\P\\ABC:OV",
+               "\\\\APL\\1\\P\\ABC:TX"});
     Run("#SET ABC:POV10=1");
     Run("#SET ABC:POV10=2");
-    connection->Pump();
-    EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1})});
-    EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(int32_t{1000})});
-}
-
-TEST_F(SubscriptionTest, PathWithoutIndexFollowsTheMainObject) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC:OV", "\\\\APL\\1\\P\\ABC:TX"});
-    Run("#SET ABC:POV10=1");
     Run("#SET ABC:PTX11=\"other signal\"");
     connection->Pump();
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1})});
-    EXPECT_TRUE(callback.ValuesOf(2).empty());
+    EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(int32_t{1000})});
+    EXPECT_EQ(callback.ValuesOf(3), std::vector<Variant>{Variant(int32_t{2})});
+    EXPECT_TRUE(callback.ValuesOf(4).empty()) << "signal 11 is not the main object";
 }
 
-TEST_F(SubscriptionTest, AcknowledgementNotifiesTheApplicationAlarmItem) {
-    SubscribeQuietly({"\\\\APL\\1:AT"});
+TEST_F(SubscriptionTest, AcknowledgementAndBlockingNotifyTheApplicationAlarmItem) {
+    Subscribe({"\\\\APL\\1:AT"});
     clock.now = MakeDate(2026, 11, 22, 11, 0, 0);
     Run("#SET ABC:PAR11=1");
     connection->Pump();
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(clock.now)});
-}
-
-TEST_F(SubscriptionTest, BlockingWriteNotifiesTheAlarmItem) {
-    SubscribeQuietly({"\\\\APL\\1:AT"});
     Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",12), (0,0,1,0,0,0), "
         "\"APPLY_TO_SELECTED\")");
     EXPECT_EQ(connection->Pump(), 1);
 }
 
-TEST_F(SubscriptionTest, RefreshResendsTheCurrentValues) {
-    const int32_t handle = SubscribeQuietly({"\\\\APL\\1\\P\\ABC\\10:CL"});
+TEST_F(SubscriptionTest, RefreshResendsTheCurrentValuesUntilRemoved) {
+    const int32_t handle = Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
     Variant results;
     connection->RefreshItems(handle, 1, results);
     EXPECT_TRUE(callback.notifications.empty());
     connection->Pump();
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1000})});
-}
 
-TEST_F(SubscriptionTest, RemovedSubscriptionGetsNothing) {
-    const int32_t handle = SubscribeQuietly({"\\\\APL\\1\\P\\ABC:GC"});
-    Run("#SET ABC:PGC=\"a#1#b\"");
+    Run("#SET ABC:PCL10=5");
     connection->RemoveItems(handle);
-    Run("#SET ABC:PGC=\"a#1#c\"");
-    EXPECT_EQ(connection->Pump(), 0);
-    EXPECT_TRUE(callback.notifications.empty());
-    Variant results;
+    Run("#SET ABC:PCL10=6");
     connection->RefreshItems(handle, 1, results);
     EXPECT_EQ(connection->Pump(), 0);
+    EXPECT_EQ(callback.notifications.size(), 1u);
 }
 
 TEST_F(SubscriptionTest, UnknownItemsAreRefusedPerItem) {
     Variant results;
     Subscribe({"\\\\APL\\1\\P\\ABC:GC", "\\\\APL\\1\\P\\NOPE:GC", "\\\\APL\\2:AT", "garbage",
                "\\\\APL\\1\\P\\ABC\\10:ZZ"},
-              &results);
+              false, &results);
     ASSERT_EQ(results.AsArray().Size(), 5u);
     EXPECT_EQ(results.AsArray().At(1), Variant(int32_t{0}));
     for (int index = 2; index <= 5; ++index)
@@ -144,7 +130,7 @@ TEST_F(SubscriptionTest, MalformedAddItemsArgumentsRaiseAClearError) {
 }
 
 TEST_F(SubscriptionTest, ChangesMadeByACallbackWaitForTheNextPump) {
-    SubscribeQuietly({"\\\\APL\\1\\P\\ABC\\10:CL"});
+    Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
     callback.onChange = [&] {
         if (callback.notifications.size() == 1) Run("#SET ABC:PCL10=2000");
     };
@@ -152,17 +138,6 @@ TEST_F(SubscriptionTest, ChangesMadeByACallbackWaitForTheNextPump) {
     EXPECT_EQ(connection->Pump(), 1);
     EXPECT_EQ(connection->Pump(), 1);
     EXPECT_EQ(callback.ValuesOf(1), (std::vector<Variant>{Variant(int32_t{1500}), Variant(int32_t{2000})}));
-}
-
-TEST_F(SubscriptionTest, ValuesWaitForACallback) {
-    int32_t handle = 0;
-    Variant results;
-    connection->AddItems(MakeLongArray({7}, 1), MakeStringArray({"\\\\APL\\1\\P\\ABC:GC"}, 1), 200, handle,
-                         results);
-    EXPECT_EQ(connection->Pump(), 0);
-    connection->SetCallback(&callback, handle);
-    EXPECT_EQ(connection->Pump(), 1);
-    EXPECT_EQ(callback.ValuesOf(7).size(), 1u);
 }
 
 }  // namespace

@@ -17,30 +17,28 @@ class TagoutCommandsTest : public DemoServerTest {
     }
 };
 
-TEST_F(TagoutCommandsTest, ClassQueriesAnswerTheTypesThePanelChecks) {
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS\"")), "Variant()");
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ACTIONMETHODS\"")), "String()");
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\"")), "String()");
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ATTRIBUTES\",\"TITLES\"")), "String()");
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ATTRIBUTES\",\"VISIBLE\"")), "Long()");
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ATTRIBUTES\",\"ENABLED\"")), "Long()");
-    const Variant names = Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\"");
-    EXPECT_EQ(names.AsArray().LowerBound(), 1);
-    EXPECT_EQ(names.AsArray().At(1), Variant("OWNER"));
-}
-
-TEST_F(TagoutCommandsTest, AttributePropertiesCoverTabsSelectorsAndLimits) {
-    const Variant tabs = Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"TAB_STRIP\",\"TITLES\"");
-    ASSERT_EQ(TypeName(tabs), "String()");
-    EXPECT_EQ(tabs.AsArray().Size(), 2u);
-    EXPECT_EQ(TypeName(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"PRIORITY\",\"TITLES\"")), "String()");
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"PRIORITY\",\"TYPE\""), Variant("SELECTOR"));
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"PRIORITY\",\"VALUE\""), Variant("Medium"));
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"COMMENT\",\"MAX_LENGTH\""), Variant(int32_t{200}));
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"ORIGIN\",\"TAB_INDEX\""), Variant(int32_t{3}));
+TEST_F(TagoutCommandsTest, ClassQueriesAnswerWhatThePanelChecks) {
+    const std::pair<const char*, const char*> types[] = {
+        {"\"GET_CLASS\"", "Variant()"},
+        {"\"GET_CLASS_ACTIONMETHODS\"", "String()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"NAMES\"", "String()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"TITLES\"", "String()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"VISIBLE\"", "Long()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"ENABLED\"", "Long()"},
+        {"\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"PRIORITY\",\"TITLES\"", "String()"}};
+    for (const auto& [query, type] : types) EXPECT_EQ(TypeName(Tagout(query)), type) << query;
+    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\"").AsArray().At(1), Variant("OWNER"));
+    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"TAB_STRIP\",\"TITLES\"").AsArray().Size(), 2u);
+    const std::pair<const char*, Variant> properties[] = {
+        {"\"PRIORITY\",\"TYPE\"", Variant("SELECTOR")},
+        {"\"PRIORITY\",\"VALUE\"", Variant("Medium")},
+        {"\"COMMENT\",\"MAX_LENGTH\"", Variant(int32_t{200})},
+        {"\"ORIGIN\",\"TAB_INDEX\"", Variant(int32_t{3})},
+        {"\"NOPE\",\"TYPE\"", Variant(tagout_error::kUnknownAttribute)}};
+    for (const auto& [arguments, expected] : properties)
+        EXPECT_EQ(Tagout(std::string("\"GET_CLASS_ATTRIBUTE_PROPERTY\",") + arguments), expected)
+            << arguments;
     EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_POSTPROCESSING\",\"COMMENT\""), Variant("TRIM"));
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"NOPE\",\"TYPE\""),
-              Variant(tagout_error::kUnknownAttribute));
 }
 
 TEST_F(TagoutCommandsTest, ExistingTagoutIsCountedNamedAndRead) {
@@ -61,6 +59,7 @@ TEST_F(TagoutCommandsTest, TagoutIsAddedEditedListedRemovedAndDeleted) {
     const std::string quotedKey = "\"" + key.AsString() + "\"";
 
     Tagout("\"ADD_EMPTY_TAGOUT\", " + object + "," + quotedKey + ",\"operator2\"");
+    EXPECT_NE(Tagout("\"GET_TAGOUT_ID\""), key) << "keys are unique within the same second";
     Tagout("\"EDIT_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey +
            ",\"TAG_TEXT\",\"Don''t \"\"close\"\"\"");
     EXPECT_EQ(Tagout("\"GET_NACTIVE_TAGOUTS\", " + object), Variant(int32_t{2}));
@@ -78,12 +77,6 @@ TEST_F(TagoutCommandsTest, TagoutIsAddedEditedListedRemovedAndDeleted) {
     EXPECT_TRUE(Object("ABC", 10).tagouts.removed.empty());
 }
 
-TEST_F(TagoutCommandsTest, NewKeysAreUniqueWithinTheSameSecond) {
-    const Variant first = Tagout("\"GET_TAGOUT_ID\"");
-    Tagout("\"ADD_EMPTY_TAGOUT\", " + object + ",\"" + first.AsString() + "\",\"operator2\"");
-    EXPECT_NE(Tagout("\"GET_TAGOUT_ID\""), first);
-}
-
 TEST_F(TagoutCommandsTest, EditingRefusesTooLongValuesAndUnknownAttributes) {
     const std::string prefix = "\"EDIT_TAGOUT_ATTRIBUTE_VALUE\", " + object + ",\"ID1511202603344512\",";
     EXPECT_EQ(Tagout(prefix + "\"OWNER\",\"" + std::string(21, 'x') + "\""),
@@ -94,13 +87,14 @@ TEST_F(TagoutCommandsTest, EditingRefusesTooLongValuesAndUnknownAttributes) {
 }
 
 TEST_F(TagoutCommandsTest, EventsFollowTheLastTagout) {
-    Run("#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"SET_PRIORITY\" ,(\"ABC\",10))");
-    Run("#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Work on feeder "
-        "cable\")");
+    Tagout("\"EVENT_FUNCTIONS\", \"SET_PRIORITY\" ,(\"ABC\",10)");
+    Tagout(
+        "\"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Work on feeder "
+        "cable\"");
     EXPECT_EQ(Object("ABC", 10).tagouts.priority, "High");
     EXPECT_EQ(Object("ABC", 10).tagouts.tagText, "Work on feeder cable");
-    Run("#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"RESET_PRIORITY\" ,(\"ABC\",10))");
-    Run("#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"RESET_TAGTEXT\" ,(\"ABC\",10))");
+    Tagout("\"EVENT_FUNCTIONS\", \"RESET_PRIORITY\" ,(\"ABC\",10)");
+    Tagout("\"EVENT_FUNCTIONS\", \"RESET_TAGTEXT\" ,(\"ABC\",10)");
     EXPECT_EQ(Object("ABC", 10).tagouts.priority, "");
     EXPECT_EQ(Object("ABC", 10).tagouts.tagText, "");
     EXPECT_EQ(Database().TagoutEvents().size(), 4u);
@@ -120,24 +114,19 @@ TEST_F(TagoutCommandsTest, ActionMethodsBlockControlAndRecordLocalBlocks) {
 }
 
 TEST_F(TagoutCommandsTest, MiscFunctionsAnswerTextFromTheServerClock) {
-    EXPECT_EQ(Run("#return do(OVGR_TAGOUT:C, \"MISC_FUNCTIONS\",\"GET_DATE\")"), Variant("2026-11-22"));
-    EXPECT_EQ(Run("#return do(OVGR_TAGOUT:C, \"MISC_FUNCTIONS\",\"GET_TIME\")"), Variant("09:30:15"));
-    EXPECT_EQ(Run("#return do(OVGR_TAGOUT:C, \"MISC_FUNCTIONS\",\"GET_ERRORMSG\", \"5007\")"),
-              Variant("No tagout class is defined"));
-    EXPECT_EQ(Run("#return do(OVGR_TAGOUT:C, \"MISC_FUNCTIONS\",\"NOTIFY_TIME\",\"09:30\")"),
-              Variant(int32_t{0}));
+    EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_DATE\""), Variant("2026-11-22"));
+    EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_TIME\""), Variant("09:30:15"));
+    EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_ERRORMSG\", \"5007\""), Variant("No tagout class is defined"));
+    EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"NOTIFY_TIME\",\"09:30\""), Variant(int32_t{0}));
 }
 
-TEST_F(TagoutCommandsTest, WithoutAClassEveryClassQueryAnswersTheCode5007) {
-    Database().Tagouts().reset();
-    EXPECT_EQ(Tagout("\"GET_CLASS\""), Variant(int32_t{5007}));
-    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\""), Variant(int32_t{5007}));
-}
-
-TEST_F(TagoutCommandsTest, UnknownObjectAnswersACodeAboveNinetyNine) {
+TEST_F(TagoutCommandsTest, UnknownObjectAndMissingClassAnswerErrorCodes) {
     const Variant count = Tagout("\"GET_NACTIVE_TAGOUTS\", (\"ABC\",99)");
     ASSERT_EQ(TypeName(count), "Long");
     EXPECT_GE(count.AsLong(), 100);
+    Database().Tagouts().reset();
+    EXPECT_EQ(Tagout("\"GET_CLASS\""), Variant(int32_t{5007}));
+    EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\""), Variant(int32_t{5007}));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -15,28 +16,25 @@ namespace trovane::sim {
 namespace {
 
 struct TranscriptCase {
-    int line = 0;  // line of the expected answer, for the failure message
+    int line = 0;  // line of the expected answer, for the failure message; -1 while reading the command
     std::string command;
     std::string expected;
 };
 
+// Lines "> " form one command, joined by line feeds; the next other line is its expected answer.
 std::vector<TranscriptCase> ReadTranscript(const std::string& path) {
     std::ifstream file(path);
     std::vector<TranscriptCase> cases;
     TranscriptCase current;
-    bool collecting = false;
     std::string text;
     for (int number = 1; std::getline(file, text); ++number) {
         if (text.rfind(">", 0) == 0) {
-            const std::string command = text.size() > 2 ? text.substr(2) : "";
-            current.command = collecting ? current.command + "\n" + command : command;
-            collecting = true;
-        } else if (collecting) {
-            current.expected = text;
-            current.line = number;
-            cases.push_back(current);
+            current.command +=
+                (current.line == -1 ? "\n" : "") + text.substr(std::min<size_t>(2, text.size()));
+            current.line = -1;
+        } else if (current.line == -1) {
+            cases.push_back({number, current.command, text});
             current = {};
-            collecting = false;
         }
     }
     return cases;

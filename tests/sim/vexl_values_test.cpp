@@ -35,12 +35,8 @@ TEST(VexlWireForm, VectorIsTypedByItsElements) {
     EXPECT_EQ(TypeName(MakeVexlVector({Variant(1.5)})), "Variant()");
     EXPECT_EQ(TypeName(MakeVexlVector({Variant(true)})), "Variant()");
     EXPECT_EQ(MakeVexlVector({Variant("a")}).AsArray().LowerBound(), 1);
-}
-
-TEST(VexlWireForm, EmptyVectorIsVariantArrayWithUpperBoundZero) {
     const Variant empty = MakeVexlVector({});
     EXPECT_EQ(TypeName(empty), "Variant()");
-    EXPECT_EQ(empty.AsArray().LowerBound(), 1);
     EXPECT_EQ(empty.AsArray().UpperBound(), 0);
     EXPECT_TRUE(IsVexlVector(empty));
 }
@@ -54,30 +50,15 @@ TEST(VexlWireForm, ListRecognitionRejectsLookalikes) {
     EXPECT_EQ(FindVexlListItem(Variant(int32_t{1}), "A"), nullptr);
 }
 
-TEST(VexlNotationTest, WritesScalarsSoTheyReadBack) {
-    EXPECT_EQ(VexlNotation(Variant()), "<EMPTY>");
-    EXPECT_EQ(VexlNotation(Variant(int32_t{10})), "10");
+TEST(VexlNotationTest, WritesValuesTheLanguageCannotProduce) {
     EXPECT_EQ(VexlNotation(Variant(int16_t{-3})), "-3");
     EXPECT_EQ(VexlNotation(Variant(10.0)), "10.0");
     EXPECT_EQ(VexlNotation(Variant(0.25)), "0.25");
     EXPECT_EQ(VexlNotation(Variant(0.1f)), "0.1");
     EXPECT_EQ(VexlNotation(Variant(Currency{25000})), "2.5");
-    EXPECT_EQ(VexlNotation(Variant("a\"b")), "\"a\"\"b\"");
-    EXPECT_EQ(VexlNotation(Variant(false)), "FALSE");
     EXPECT_EQ(VexlNotation(Variant::Null()), "<NULL>");
     EXPECT_EQ(VexlNotation(Variant::Nothing()), "<NOTHING>");
-}
-
-TEST(VexlNotationTest, WritesNestedListsAndVectors) {
-    const Variant list =
-        MakeVexlList({{"STATUS", Variant(int32_t{0})},
-                      {"SIGNALS", MakeVexlVector({MakeVexlList({{"TX", Variant("Breaker")}})})}});
-    EXPECT_EQ(VexlNotation(list), "LIST(STATUS=0,SIGNALS=Vector(LIST(TX=\"Breaker\")))");
-    EXPECT_EQ(VexlNotation(MakeVexlVector({Variant(int32_t{0}), Variant(int32_t{1})})), "(0,1)");
-}
-
-TEST(VexlNotationTest, ArrayOutsideWireFormIsWrittenAsItsElements) {
-    EXPECT_EQ(VexlNotation(MakeStringArray({"a", "b"}, 0)), "(\"a\",\"b\")");
+    EXPECT_EQ(VexlNotation(MakeStringArray({"a", "b"}, 0)), "(\"a\",\"b\")") << "outside the wire form";
 }
 
 }  // namespace
