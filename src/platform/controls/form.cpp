@@ -66,10 +66,7 @@ std::vector<Control*> Form::ArrayElements(std::string_view name) const {
 }
 
 Variant Form::ControlsObject() {
-    auto self = std::static_pointer_cast<Form>(weak_from_this().lock());
-    if (!self)
-        self = std::shared_ptr<Form>(std::shared_ptr<Form>(), this);  // a form not owned by a reference
-    return Variant(MakeControlCollection(std::move(self)));
+    return Variant(MakeControlCollection(*this));
 }
 
 void Form::Load() {
