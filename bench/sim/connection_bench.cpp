@@ -55,7 +55,7 @@ void CounterLimitWrite(benchmark::State& state) {
     int32_t handle = 0;
     Variant results;
     connection->AddItems(trovane::MakeLongArray({1}, 1),
-                         trovane::MakeStringArray({"\\\\APL\\1\\P\\ABC\\10:CL"}, 1), 200, handle, results);
+                         trovane::MakeStringArray({"\\\\APL\\1\\P\\ABC\\10:CL"}, 1), 0, 200, handle, results);
     connection->SetCallback(&callback, handle);
     // Two alternating limits, so that every write really changes the attribute and notifies.
     Variant result;

@@ -18,17 +18,8 @@ int16_t UpperBound16(int32_t upperBound) {
 }
 }  // namespace
 
-Variant Alarms::RunVexlCmd(const std::string& command) const {
-    std::vector<Variant> args{Variant(command)};
-    return CallMethod(container, "RunVexlCmd", std::span<Variant>(args));
-}
-
 bool Alarms::IsAlarmHandlingAllowed() const {
-    return ToBool(CallMethod(container, "IsAlarmHandlingAllowed"));
-}
-
-std::string Alarms::Text(int32_t id) const {
-    return ToString(CallMethod(container, "GetNlsString", {Variant(id)}));
+    return IsAllowed("IsAlarmHandlingAllowed");
 }
 
 void Alarms::RefreshAlarms() {
@@ -36,7 +27,7 @@ void Alarms::RefreshAlarms() {
     rowIdentities.clear();
     EnsureColumns();
     ListView1.ClearItems();
-    const Variant alarmList = services.GetListItem(CallMethod(container, "GetAlarms"), "COMBO_LIST");
+    const Variant alarmList = services.GetListItem(CallContainer("GetAlarms"), "COMBO_LIST");
     anyUnacknowledged = false;
     ListItem* reselected = AddRows(alarmList);
     btnAck.SetEnabled(IsAlarmHandlingAllowed() && anyUnacknowledged);
@@ -69,7 +60,7 @@ ListItem* Alarms::AddRows(const Variant& alarmList) {
 // the whole object when it is not.
 void Alarms::FollowRememberedSignal(const ListItem* reselected) {
     if (reselected == nullptr)
-        CallMethod(container, "SetSingleBlocking", {Variant(false)});
+        CallContainer("SetSingleBlocking", {Variant(false)});
     else
         SelectRow(false);
 }
@@ -77,15 +68,15 @@ void Alarms::FollowRememberedSignal(const ListItem* reselected) {
 void Alarms::EnsureColumns() {
     if (ListView1.ColumnCount() > 0) return;
     ListView1.AddColumn("");
-    ListView1.AddColumn(Text(kObjectTextId));
-    ListView1.AddColumn(Text(kAlarmStateTextId));
+    ListView1.AddColumn(GetNlsString(kObjectTextId));
+    ListView1.AddColumn(GetNlsString(kAlarmStateTextId));
 }
 
 ListItem* Alarms::AddRow(const AlarmRow& row) {
     ListItem& item = ListView1.AddItem("", row.key, row.state->iconPosition);
     rowIdentities.push_back(row.identity);
     item.SetSubItem(1, row.signalText);
-    item.SetSubItem(2, Text(row.state->stateTextId));
+    item.SetSubItem(2, GetNlsString(row.state->stateTextId));
     if (!row.tag.empty()) {
         item.SetTag(row.tag);
         anyUnacknowledged = true;
@@ -115,8 +106,8 @@ void Alarms::HandOverSignal(const std::string& identity) {
     const std::string index =
         identity.substr(colon + 1, next == std::string::npos ? std::string::npos : next - colon - 1);
     if (!IsNumeric(std::string_view(index))) return;
-    CallMethod(container, "SetBlockedSignal", {Variant(name), Variant(ToInt32(Variant(index)))});
-    CallMethod(container, "SetSingleBlocking", {Variant(true)});
+    CallContainer("SetBlockedSignal", {Variant(name), Variant(ToInt32(Variant(index)))});
+    CallContainer("SetSingleBlocking", {Variant(true)});
     rememberedSignal = identity;
 }
 

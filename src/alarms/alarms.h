@@ -21,29 +21,20 @@
 #include <vector>
 
 #include "alarms/alarm_rows.h"
-#include "common/common_functions.h"
-#include "common/panel_subscription.h"
+#include "common/panel.h"
 #include "platform/controls/command_button.h"
-#include "platform/controls/form.h"
 #include "platform/controls/list_view.h"
 #include "platform/controls/picture_box.h"
-#include "platform/data_callback.h"
-#include "platform/late_bound.h"
 
 namespace trovane {
 
-class Alarms : public Form, public SysDataCallback {
+class Alarms : public Panel {
   public:
+    // The application's alarm item is an event item, reported at most twice a second.
+    static constexpr int32_t kAlarmItemType = 1;
     static constexpr int32_t kUpdatePeriod = 500;
 
     explicit Alarms(PlatformServices platform = PlatformServices::Defaults());
-
-    std::string ClassName() const override { return "Alarms"; }
-    Variant Invoke(std::string_view member, CallKind kind, std::span<Variant> args) override;
-
-    // The host form that sites the panel (Nothing until the host sets it).
-    const Variant& Parent() const { return container; }
-    void SetParent(Variant host) { container = std::move(host); }
 
     // ---- Operations for the host ---------------------------------------------------------------
     Variant Init();
@@ -51,9 +42,6 @@ class Alarms : public Form, public SysDataCallback {
     void Deactivate();
     void RefreshAlarms();
     void Resize_List_View(int32_t Width);
-    void OnDataChange(int32_t transactionId, int32_t subscriptionHandle, int32_t count,
-                      const Variant& clientHandles, const Variant& values, const Variant& qualities,
-                      const Variant& timeStamps) override;
 
     // ---- Operator actions ------------------------------------------------------------------
     void AcknowledgeAll();
@@ -94,17 +82,11 @@ class Alarms : public Form, public SysDataCallback {
     int32_t Pixels(int32_t count) const;
 
     bool IsAlarmHandlingAllowed() const;
-    std::string Text(int32_t id) const;
-    Variant RunVexlCmd(const std::string& command) const;
 
-    Variant container;
-    CommonFunctions services;
-    PanelSubscription subscription;
     bool isActive = false;
     std::vector<std::string> rowIdentities;
     bool anyUnacknowledged = false;
     std::string rememberedSignal;
-    DispatchObject members{"Alarms"};
 };
 
 }  // namespace trovane

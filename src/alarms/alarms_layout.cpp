@@ -31,13 +31,12 @@ constexpr int32_t kTwipsPerPixel = 15;
 }  // namespace
 
 Alarms::Alarms(PlatformServices platform)
-    : Form("Alarms"),
+    : Panel("Alarms", std::move(platform)),
       ListView1(Add<ListView>("ListView1")),
       btnAck(Add<CommandButton>("btnAck")),
       btnAckSelected(Add<CommandButton>("btnAckSelected")),
       btnRefresh(Add<CommandButton>("btnRefresh")),
-      Picture1(Add<PictureBox>("Picture1")),
-      services(std::move(platform)) {
+      Picture1(Add<PictureBox>("Picture1")) {
     LayOutControls();
     ConnectEvents();
     RegisterMembers();

@@ -3,11 +3,9 @@
 #include "alarms/alarms.h"
 
 #include "alarms/alarm_icons.h"
-#include "common/panel_captions.h"
 #include "common/panel_items.h"
 #include "core/conversions.h"
 #include "platform/controls/key_codes.h"
-#include "platform/trace.h"
 
 namespace trovane {
 
@@ -23,11 +21,14 @@ void Alarms::ConnectEvents() {
 }
 
 Variant Alarms::Init() {
-    DebugInfo("-> Alarms.Init");
-    SetCaptionsFromTags(*this, ContainerTexts(container));
-    CallMethod(container, "SetCharsetValues", {ControlsObject()});
-    LoadIcons();
-    DebugInfo("<- Alarms.Init");
+    Traced(
+        "Init",
+        [this] {
+            SetUpControls();
+            LoadIcons();
+            return true;
+        },
+        OnFailure::Raise);
     return Variant();
 }
 
@@ -44,24 +45,13 @@ Variant Alarms::Activate(int16_t App, const Variant& subsServer) {
     isActive = true;
     Init();
     subscription.Activate(subsServer,
-                          {{ApplicationItemPath(App, "AT"), [this](const Variant&) { RefreshAlarms(); }}},
-                          *this, kUpdatePeriod);
+                          {{1, ApplicationItemPath(App, "AT"), [this](const Variant&) { RefreshAlarms(); }}},
+                          *this, {kAlarmItemType, kUpdatePeriod});
     return Variant();
 }
 
 void Alarms::Deactivate() {
     subscription.Deactivate();
-}
-
-// A notification comes from the connection, not from the host: a failing rebuild is traced and
-// goes no further.
-void Alarms::OnDataChange(int32_t, int32_t, int32_t count, const Variant& clientHandles,
-                          const Variant& values, const Variant&, const Variant&) {
-    try {
-        subscription.Dispatch(count, clientHandles, values);
-    } catch (const std::exception&) {
-        DebugInfo("<- Alarms.ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
-    }
 }
 
 // The Refresh button does not rebuild the list itself: the fresh values' notification does.
@@ -70,7 +60,7 @@ void Alarms::RequestFreshData() {
     if (isActive) {
         if (subscription.IsActive() && subscription.SubscriptionHandle() != 0) subscription.Refresh();
     } else {
-        CallMethod(container, "RefreshSubscriptions");
+        CallContainer("RefreshSubscriptions");
     }
 }
 

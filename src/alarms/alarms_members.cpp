@@ -7,27 +7,22 @@
 
 namespace trovane {
 
-Variant Alarms::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {
-    if (members.Answers(member)) return members.Invoke(member, kind, args);
-    return Form::Invoke(member, kind, args);
-}
-
 void Alarms::RegisterMembers() {
-    members.Property(
+    Members().Property(
         "DisableUpdate", [this] { return Variant(DisableUpdate); },
         [this](const Variant& v) { DisableUpdate = ToBool(v); });
-    members.Property(
+    Members().Property(
         "CanSelectSingleBlocking", [this] { return Variant(CanSelectSingleBlocking); },
         [this](const Variant& v) { CanSelectSingleBlocking = ToBool(v); });
-    members.Method("Init", [this](std::span<Variant>) { return Init(); });
-    members.Method("Activate", [this](std::span<Variant> args) {
+    Members().Method("Init", [this](std::span<Variant>) { return Init(); });
+    Members().Method("Activate", [this](std::span<Variant> args) {
         return Activate(ToInt16(RequiredArgument(args, 0)), RequiredArgument(args, 1));
     });
-    members.Method("Deactivate", ReturningEmpty([this](std::span<Variant>) { Deactivate(); }));
-    members.Method("RefreshAlarms", ReturningEmpty([this](std::span<Variant>) { RefreshAlarms(); }));
-    members.Method("Resize_List_View", ReturningEmpty([this](std::span<Variant> args) {
-                       Resize_List_View(ToInt32(RequiredArgument(args, 0)));
-                   }));
+    Members().Method("Deactivate", ReturningEmpty([this](std::span<Variant>) { Deactivate(); }));
+    Members().Method("RefreshAlarms", ReturningEmpty([this](std::span<Variant>) { RefreshAlarms(); }));
+    Members().Method("Resize_List_View", ReturningEmpty([this](std::span<Variant> args) {
+                         Resize_List_View(ToInt32(RequiredArgument(args, 0)));
+                     }));
 }
 
 }  // namespace trovane

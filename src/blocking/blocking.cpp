@@ -2,7 +2,6 @@
 
 #include "blocking/blocking.h"
 
-#include "common/panel_captions.h"
 #include "core/conversions.h"
 #include "platform/trace.h"
 
@@ -13,33 +12,31 @@ constexpr std::string_view kWasChecked = "WAS_CHECKED";
 }  // namespace
 
 Variant Blocking::Init() {
-    DebugInfo("-> Blocking.Init");
-    SetCaptionsFromTags(*this, ContainerTexts(container));
-    CallMethod(container, "SetCharsetValues", {ControlsObject()});
-    EnterCleanState();
-    GetAndsetDisabledBlockings();
-    RefreshStates();
-    DebugInfo("<- Blocking.Init");
+    Traced(
+        "Init",
+        [this] {
+            SetUpControls();
+            EnterCleanState();
+            GetAndsetDisabledBlockings();
+            RefreshStates();
+            return true;
+        },
+        OnFailure::Raise);
     return Variant();
 }
 
+// On the error exit isRefreshing stays set on purpose: later clicks must not enable OK until a
+// refresh succeeds or Cancel runs.
 void Blocking::RefreshStates() {
-    DebugInfo("-> Blocking.RefreshStates");
-    try {
+    Traced("RefreshStates", [this] {
         isRefreshing = true;
         DebugInfo("   Blocking.RefreshStates: Getting blockings...");
         const Variant states = GetBlocking();
         DebugInfo("   Blocking.RefreshStates: Getting blockings done.");
-        if (ReadRefreshedValues(states)) {
-            isRefreshing = false;
-            DebugInfo("<- Blocking.RefreshStates");
-            return;
-        }
-    } catch (const std::exception&) {
-    }
-    // isRefreshing stays set on purpose: later clicks must not enable OK until a refresh succeeds
-    // or Cancel runs.
-    DebugInfo("<- Blocking.RefreshStates ERROR OCCURRED!!!");
+        if (!ReadRefreshedValues(states)) return false;
+        isRefreshing = false;
+        return true;
+    });
 }
 
 // Stores elements 1 to 6 of the server's vector through the kind properties; false when the vector
@@ -85,7 +82,8 @@ void Blocking::OnOkClicked() {
 
 // The alarm panel stops updating while the operator works in it; writing blockings ends that.
 void Blocking::ReleaseAlarmPanel() {
-    if (container.IsNothing() || !container.IsObject() || !HasMember(container, "Alarms1")) return;
+    const Variant container = Parent();
+    if (container.IsNothing() || !HasMember(container, "Alarms1")) return;
     try {
         const Variant alarms = GetProperty(container, "Alarms1");
         if (alarms.IsObject() && !alarms.IsNothing()) PutProperty(alarms, "DisableUpdate", false);

@@ -18,25 +18,16 @@
 #include <string>
 
 #include "blocking/blocking_commands.h"
-#include "common/common_functions.h"
+#include "common/panel.h"
 #include "platform/controls/check_box.h"
 #include "platform/controls/command_button.h"
-#include "platform/controls/form.h"
 #include "platform/controls/label.h"
-#include "platform/late_bound.h"
 
 namespace trovane {
 
-class Blocking : public Form {
+class Blocking : public Panel {
   public:
     explicit Blocking(PlatformServices platform = PlatformServices::Defaults());
-
-    std::string ClassName() const override { return "Blocking"; }
-    Variant Invoke(std::string_view member, CallKind kind, std::span<Variant> args) override;
-
-    // The host form that sites the panel (Nothing until the host sets it).
-    const Variant& Parent() const { return container; }
-    void SetParent(Variant host) { container = std::move(host); }
 
     // ---- Blocking service and state ----------------------------------------------------------
     Variant GetBlocking();
@@ -103,12 +94,8 @@ class Blocking : public Form {
     bool ReadRefreshedValues(const Variant& states);
     std::string_view CurrentApplyToMode() const;
     bool IsBlockingHandlingAllowed() const;
-    Variant RunVexlCmd(const std::string& command) const;
 
-    Variant container;
-    CommonFunctions services;
     BlockingValues blockingValues{};
-    DispatchObject members{"Blocking"};
 };
 
 }  // namespace trovane

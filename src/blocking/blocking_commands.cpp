@@ -1,5 +1,7 @@
 #include "blocking/blocking_commands.h"
 
+#include "common/command_text.h"
+
 namespace trovane {
 
 namespace {
@@ -21,10 +23,6 @@ std::string QuotedMode(std::string_view mode) {
 
 std::string_view ApplyToMode(int16_t optionValue, bool optionEnabled) {
     return optionValue == 1 && optionEnabled ? kApplyToSelected : kApplyToAll;
-}
-
-std::string ObjectReferenceText(const std::string& logicalName, int32_t baseIndex) {
-    return "(\"" + logicalName + "\"," + std::to_string(baseIndex) + ")";
 }
 
 std::string GetBlockingStateCommand(const std::string& logicalName, int32_t baseIndex,

@@ -27,9 +27,6 @@ inline constexpr std::string_view kApplyToAll = "APPLY_TO_ALL";
 // "APPLY_TO_SELECTED" only when the option is checked (value 1, not grey) and enabled.
 std::string_view ApplyToMode(int16_t optionValue, bool optionEnabled);
 
-// ("ABC",10)
-std::string ObjectReferenceText(const std::string& logicalName, int32_t baseIndex);
-
 std::string GetBlockingStateCommand(const std::string& logicalName, int32_t baseIndex, std::string_view mode);
 std::string SetBlockingStateCommand(const std::string& logicalName, int32_t baseIndex,
                                     const BlockingValues& values, std::string_view mode);

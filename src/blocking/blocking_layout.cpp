@@ -28,14 +28,13 @@ constexpr std::array<int32_t, kBlockingKindCount> kKindCaptionIds{159, 160, 161,
 }  // namespace
 
 Blocking::Blocking(PlatformServices platform)
-    : Form("Blocking"),
+    : Panel("Blocking", std::move(platform)),
       kindCheckBoxes(AddKindCheckBoxes()),
       chkBlockSelectedSignal(Add<CheckBox>("chkBlockSelectedSignal")),
       lblBlockSelectedSignal(Add<Label>("lblBlockSelectedSignal")),
       btnOK(Add<CommandButton>("btnOK")),
       btnCancel(Add<CommandButton>("btnCancel")),
-      btnRefresh(Add<CommandButton>("btnRefresh")),
-      services(std::move(platform)) {
+      btnRefresh(Add<CommandButton>("btnRefresh")) {
     LayOutControls();
     ConnectEvents();
     RegisterMembers();

@@ -7,7 +7,6 @@
 
 #include "blocking/blocking.h"
 #include "core/conversions.h"
-#include "platform/controls/control_errors.h"
 
 namespace trovane {
 
@@ -15,13 +14,8 @@ namespace {
 constexpr std::string_view kDisabled = "DISABLED";
 }  // namespace
 
-Variant Blocking::RunVexlCmd(const std::string& command) const {
-    std::vector<Variant> args{Variant(command)};
-    return CallMethod(container, "RunVexlCmd", std::span<Variant>(args));
-}
-
 bool Blocking::IsBlockingHandlingAllowed() const {
-    return ToBool(CallMethod(container, "IsBlockingHandlingAllowed"));
+    return IsAllowed("IsBlockingHandlingAllowed");
 }
 
 std::string_view Blocking::CurrentApplyToMode() const {
@@ -60,12 +54,11 @@ int16_t Blocking::KindValue(int16_t position) const {
     return blockingValues[position - 1];
 }
 
-// Storing first and then writing the box matters: the box's Click sees the new stored value. A value
-// no check box can show is refused before anything is stored, so the stored values stay showable
-// (Cancel writes them back).
+// Storing first and then writing the box matters: the box's Click sees the new stored value, and a
+// value the box refuses (380) is still the stored one while its error goes on to the caller (during
+// a refresh, to the refresh's error exit).
 void Blocking::SetKindValue(int16_t position, int16_t value) {
     CheckBox& box = KindCheckBox(position);
-    if (value < CheckBox::Unchecked || value > CheckBox::Grayed) throw InvalidPropertyValue();
     blockingValues[position - 1] = value;
     box.SetValue(value);
 }

@@ -21,11 +21,8 @@ namespace {
 
 using Member = std::function<Variant(CommonFunctions&, std::span<Variant>)>;
 
-constexpr int32_t kArgumentNotOptional = 449;
-
 Variant& Arg(std::span<Variant> args, size_t index) {
-    if (index >= args.size()) throw Error(kArgumentNotOptional, "Argument not optional");
-    return args[index];
+    return RequiredArgument(args, index);
 }
 
 std::string Text(std::span<Variant> args, size_t index) {
@@ -52,15 +49,6 @@ Variant NoResult(Operation&& operation) {
     operation();
     return Variant();
 }
-
-struct CaseInsensitiveLess {
-    bool operator()(std::string_view a, std::string_view b) const {
-        const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-        return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                            [&](char x, char y) { return lower(x) < lower(y); });
-    }
-    using is_transparent = void;
-};
 
 const std::map<std::string, Member, CaseInsensitiveLess>& Members() {
     using F = CommonFunctions;

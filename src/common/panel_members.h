@@ -1,8 +1,8 @@
 #pragma once
-// Small helpers for panels that publish their members by name through a DispatchObject.
+// Small helpers for objects that publish their members by name through a DispatchObject.
 //
-// A late-bound caller may pass too few arguments; that is an invalid call (5), not a crash. Many
-// members are operations without a result, which answer Empty to a late-bound caller.
+// A late-bound caller may pass too few arguments; RequiredArgument (core/object.h) raises 449 for
+// that. Many members are operations without a result, which answer Empty to a late-bound caller.
 
 #include <span>
 
@@ -10,11 +10,6 @@
 #include "platform/late_bound.h"
 
 namespace trovane {
-
-inline const Variant& RequiredArgument(std::span<Variant> args, size_t i) {
-    if (i >= args.size()) throw Error(ErrorNumber::InvalidCall, "argument missing");
-    return args[i];
-}
 
 // Wraps an operation without result as a late-bound method answering Empty.
 template <typename F>

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <string>
 
 #include "core/checked_int.h"
 #include "core/conversions.h"
@@ -18,12 +19,12 @@ int32_t ElementsFromZero(const Variant& array) {
 }
 }  // namespace
 
-SubscriptionRequest BuildSubscriptionRequest(const std::vector<std::string>& itemPaths) {
-    VariantArray paths(ElementKind::String, 1, itemPaths.size());
-    VariantArray handles(ElementKind::Long, 1, itemPaths.size());
-    for (int32_t k = 1; k <= static_cast<int32_t>(itemPaths.size()); ++k) {
-        paths.Set(k, itemPaths[static_cast<size_t>(k - 1)]);
-        handles.Set(k, k);
+SubscriptionRequest BuildSubscriptionRequest(const std::vector<SubscribedItem>& items) {
+    VariantArray paths(ElementKind::String, 1, items.size());
+    VariantArray handles(ElementKind::Long, 1, items.size());
+    for (size_t k = 0; k < items.size(); ++k) {
+        paths.Set(static_cast<int64_t>(k) + 1, items[k].path);
+        handles.Set(static_cast<int64_t>(k) + 1, items[k].clientHandle);
     }
     return {Variant(std::move(paths)), Variant(std::move(handles))};
 }
@@ -42,17 +43,21 @@ PanelSubscription::~PanelSubscription() {
 }
 
 void PanelSubscription::Activate(const Variant& server, std::vector<SubscribedItem> subscribedItems,
-                                 SysDataCallback& callback, int32_t updateRate) {
-    std::vector<std::string> paths;
-    for (const SubscribedItem& item : subscribedItems) paths.push_back(item.path);
-    const SubscriptionRequest request = BuildSubscriptionRequest(paths);
+                                 SysDataCallback& callback, SubscriptionOptions options) {
+    for (size_t i = 0; i < subscribedItems.size(); ++i)
+        for (size_t j = i + 1; j < subscribedItems.size(); ++j)
+            if (subscribedItems[i].clientHandle == subscribedItems[j].clientHandle)
+                throw Error(ErrorNumber::InvalidCall, "two subscribed items share client handle " +
+                                                          std::to_string(subscribedItems[i].clientHandle));
+    const SubscriptionRequest request = BuildSubscriptionRequest(subscribedItems);
     items = std::move(subscribedItems);
     subscriptionHandle = 0;
     subsServer = server;
     connection = ConnectionOf(subsServer);
     if (!connection) throw Error(ErrorNumber::ObjectNotSet, "subscription connection");
     Variant results;
-    connection->AddItems(request.clientHandles, request.itemPaths, updateRate, subscriptionHandle, results);
+    connection->AddItems(request.clientHandles, request.itemPaths, options.itemType, options.updateRate,
+                         subscriptionHandle, results);
     connection->SetCallback(&callback, subscriptionHandle);
 }
 
@@ -78,10 +83,25 @@ void PanelSubscription::Refresh() {
 
 void PanelSubscription::Dispatch(int32_t count, const Variant& clientHandles, const Variant& values) const {
     ForEachChange(count, clientHandles, values, [this](int32_t clientHandle, const Variant& value) {
-        if (clientHandle < 1 || clientHandle > static_cast<int32_t>(items.size())) return;
-        const SubscribedItem& item = items[static_cast<size_t>(clientHandle - 1)];
-        if (item.onChange) item.onChange(value);
+        if (const SubscribedItem* item = Find(clientHandle)) Apply(*item, value);
     });
+    if (afterBatch) afterBatch();
+}
+
+const SubscribedItem* PanelSubscription::Find(int32_t clientHandle) const {
+    for (const SubscribedItem& item : items)
+        if (item.clientHandle == clientHandle) return &item;
+    return nullptr;
+}
+
+void PanelSubscription::Apply(const SubscribedItem& item, const Variant& value) const {
+    if (!item.onChange) return;
+    if (!item.isolated) return item.onChange(value);
+    try {
+        item.onChange(value);
+    } catch (const std::exception& failure) {
+        if (onIsolatedFailure) onIsolatedFailure(item, failure);
+    }
 }
 
 }  // namespace trovane

@@ -1,34 +1,26 @@
 #pragma once
 // PanelSubscription: a panel's subscription to the server attributes it shows.
 //
-// Every subscribing panel follows the same contract. Activate builds a fresh request from the
-// panel's items, item k carrying client handle k (both lists indexed 1 to n), subscribes it with
-// the connection at update rate 200 and routes its changes to the panel's callback. The panel's
-// OnDataChange hands the batch to Dispatch, which finds each item by its client handle, never by
-// its position in the batch, and calls that item's handler in batch order (so a later value for
-// the same item wins); handles the panel does not know are ignored. Deactivate ends the
-// subscription (errors of the connection suppressed: the panel is going away anyway) and releases
-// the connection. Refresh asks the server to send the current values again, after a write.
+// A panel declares its items as (client handle, item path, what to do with a new value). The
+// handles are the panel's own choice: they need not be consecutive (the operation counter leaves
+// one out for some kinds of object), and they are how a change finds its item, never its position
+// in a notification batch. Activate subscribes the items with the connection and routes their
+// changes to the panel's callback; the panel's OnDataChange hands each batch to Dispatch, which
+// applies the changes in batch order (so a later value for the same item wins), ignores handles the
+// panel did not declare, and then runs the after-batch hook once.
 //
-// A panel uses it like this:
-//
-//     void Panel::Activate(int16_t App, const std::string& name, const Variant& server) {
-//         subscription.Activate(server, {{ItemPath(App, name, "GC"), [this](const Variant& v) {
-//         ShowComment(v); }}},
-//                               *this);
-//     }
-//     void Panel::OnDataChange(int32_t, int32_t, int32_t count, const Variant& handles, const Variant&
-//     values,
-//                              const Variant&, const Variant&) {
-//         subscription.Dispatch(count, handles, values);
-//     }
-//     void Panel::Deactivate() { subscription.Deactivate(); }
+// An item whose handler fails stops the batch and the failure goes on to the caller, unless the
+// item is declared isolated: then the failure is reported to `onIsolatedFailure` and the remaining
+// changes still apply. Deactivate ends the subscription (the connection's errors suppressed: the
+// panel is going away anyway) and releases the connection; with no subscription handle it removes
+// nothing. Refresh asks the server to send the current values again, after a write.
 //
 // A second Activate without Deactivate subscribes again and forgets the first subscription, which
 // then stays with the server: hosts deactivate first. Destroying an active PanelSubscription
 // deactivates it, so that the connection never calls back into a panel that is gone.
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
@@ -41,17 +33,27 @@
 namespace trovane {
 
 struct SubscribedItem {
+    int32_t clientHandle = 0;
     std::string path;
     std::function<void(const Variant& value)> onChange;
+    // A failure of this item is reported and the rest of the batch still applies.
+    bool isolated = false;
+};
+
+struct SubscriptionOptions {
+    static constexpr int32_t kUpdateRate = 200;
+
+    int32_t itemType = 0;  // plain attribute values
+    int32_t updateRate = kUpdateRate;
 };
 
 // The two parallel lists the connection takes: item paths ("String()") and client handles
-// ("Long()"), both with lower bound 1; item k carries client handle k.
+// ("Long()"), both with lower bound 1, in the order the items were declared.
 struct SubscriptionRequest {
     Variant itemPaths;
     Variant clientHandles;
 };
-SubscriptionRequest BuildSubscriptionRequest(const std::vector<std::string>& itemPaths);
+SubscriptionRequest BuildSubscriptionRequest(const std::vector<SubscribedItem>& items);
 
 // Calls handler(client handle, new value) for each of the `count` changes of a batch, in order.
 // The batch is walked with a 16-bit counter (a batch of more than 32767 changes overflows), and a
@@ -61,18 +63,16 @@ void ForEachChange(int32_t count, const Variant& clientHandles, const Variant& v
 
 class PanelSubscription {
   public:
-    static constexpr int32_t kUpdateRate = 200;
-
     PanelSubscription() = default;
     PanelSubscription(const PanelSubscription&) = delete;
     PanelSubscription& operator=(const PanelSubscription&) = delete;
     ~PanelSubscription();
 
-    // Keeps the connection, subscribes the items and sets the callback. A connection that is
-    // Nothing raises "object not set" (91); the connection's own errors reach the caller too.
-    // A panel whose item changes often may ask for a slower update rate (the alarm panel's 500).
+    // Keeps the connection, subscribes the items and sets the callback. Two items with the same
+    // client handle are refused (5) before anything is sent; a connection that is Nothing raises
+    // "object not set" (91); the connection's own errors reach the caller too.
     void Activate(const Variant& subsServer, std::vector<SubscribedItem> subscribedItems,
-                  SysDataCallback& callback, int32_t updateRate = kUpdateRate);
+                  SysDataCallback& callback, SubscriptionOptions options = {});
     void Deactivate();
     // Asks for the current values again; nothing happens while inactive.
     void Refresh();
@@ -83,7 +83,15 @@ class PanelSubscription {
     // The connection object as the host handed it (Nothing while inactive).
     const Variant& Server() const { return subsServer; }
 
+    // Runs once after every batch that Dispatch applied to its end.
+    std::function<void()> afterBatch;
+    // Hears the failures of isolated items (the item, the failure); without it they are dropped.
+    std::function<void(const SubscribedItem&, const std::exception&)> onIsolatedFailure;
+
   private:
+    const SubscribedItem* Find(int32_t clientHandle) const;
+    void Apply(const SubscribedItem& item, const Variant& value) const;
+
     Variant subsServer = Variant::Nothing();
     std::shared_ptr<Connection> connection;
     int32_t subscriptionHandle = 0;

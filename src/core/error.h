@@ -18,11 +18,12 @@ enum class ErrorNumber : int32_t {
     ObjectNotSet = 91,
     InvalidUseOfNull = 94,
     MemberNotSupported = 438,
+    ArgumentNotOptional = 449,
     DuplicateKey = 457,
 };
 
 class Error : public std::runtime_error {
-public:
+  public:
     Error(int32_t number, std::string description);
     explicit Error(ErrorNumber number);
     Error(ErrorNumber number, const std::string& detail);
@@ -30,7 +31,7 @@ public:
     int32_t Number() const { return number_; }
     const std::string& Description() const { return description_; }
 
-private:
+  private:
     int32_t number_;
     std::string description_;
 };

@@ -20,7 +20,7 @@ namespace trovane {
 enum class CallKind { Method, PropertyGet, PropertyPut };
 
 class Object : public std::enable_shared_from_this<Object> {
-public:
+  public:
     virtual ~Object() = default;
 
     // The type name of a variant holding this object.
@@ -30,7 +30,16 @@ public:
     virtual Variant Invoke(std::string_view member, CallKind kind, std::span<Variant> args);
 };
 
-// Case-insensitive comparison of member names and keys (ASCII letters only, as the names are).
+// Case-insensitive comparison of member names and keys (ASCII letters only, as the names are), and
+// the ordering that goes with it for maps keyed by member name.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
+struct CaseInsensitiveLess {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+};
+
+// The argument at `index` of a late-bound call; a caller that passed too few raises "Argument not
+// optional" (449), as late binding does, never an out-of-range read.
+Variant& RequiredArgument(std::span<Variant> args, size_t index);
 
 }  // namespace trovane

@@ -30,10 +30,34 @@ namespace trovane {
 class Object;
 using ObjectRef = std::shared_ptr<Object>;
 
-enum class VarKind : uint8_t { Empty, Null, Integer, Long, Single, Double, Currency, Date, String, Boolean, Object, Array };
+enum class VarKind : uint8_t {
+    Empty,
+    Null,
+    Integer,
+    Long,
+    Single,
+    Double,
+    Currency,
+    Date,
+    String,
+    Boolean,
+    Object,
+    Array
+};
 
 // The kind of an array's elements. Variant elements may hold anything; the others coerce on store.
-enum class ElementKind : uint8_t { Variant, Integer, Long, Single, Double, Currency, Date, String, Boolean, Object };
+enum class ElementKind : uint8_t {
+    Variant,
+    Integer,
+    Long,
+    Single,
+    Double,
+    Currency,
+    Date,
+    String,
+    Boolean,
+    Object
+};
 
 struct Currency {
     int64_t scaled = 0;  // the value times 10000
@@ -53,22 +77,25 @@ struct NullValue {
 class VariantArray;
 
 class Variant {
-public:
+  public:
     Variant() = default;
-    Variant(int16_t v) : value_(v) {}                            // Integer
-    Variant(int32_t v) : value_(v) {}                            // Long
-    Variant(float v) : value_(v) {}                              // Single
-    Variant(double v) : value_(v) {}                             // Double
-    Variant(Currency v) : value_(v) {}                           // Currency
-    Variant(Date v) : value_(v) {}                               // Date
-    Variant(std::string v) : value_(std::move(v)) {}             // String
-    Variant(const char* v) : value_(std::string(v)) {}           // String
-    Variant(std::string_view v) : value_(std::string(v)) {}      // String
-    Variant(bool v) : value_(v) {}                               // Boolean
-    Variant(NullValue v) : value_(v) {}                          // Null
-    Variant(ObjectRef v) : value_(std::move(v)) {}               // object, or Nothing when null
-    Variant(VariantArray array);                                 // array
-    Variant(std::nullptr_t) : value_(ObjectRef{}) {}             // Nothing
+    Variant(int16_t v) : value_(v) {}                        // Integer
+    Variant(int32_t v) : value_(v) {}                        // Long
+    Variant(float v) : value_(v) {}                          // Single
+    Variant(double v) : value_(v) {}                         // Double
+    Variant(Currency v) : value_(v) {}                       // Currency
+    Variant(Date v) : value_(v) {}                           // Date
+    Variant(std::string v) : value_(std::move(v)) {}         // String
+    Variant(const char* v) : value_(std::string(v)) {}       // String
+    Variant(std::string_view v) : value_(std::string(v)) {}  // String
+    Variant(bool v) : value_(v) {}                           // Boolean
+    Variant(NullValue v) : value_(v) {}                      // Null
+    Variant(ObjectRef v) : value_(std::move(v)) {}           // object, or Nothing when null
+    Variant(VariantArray array);                             // array
+    Variant(std::nullptr_t) : value_(ObjectRef{}) {}         // Nothing
+    // Any other pointer would silently become a Boolean; an object travels as an ObjectRef.
+    template <typename T>
+    Variant(T*) = delete;
 
     Variant(const Variant& other);
     // A moved-from variant is Empty (never an array without storage), so it can still be read.
@@ -107,7 +134,7 @@ public:
     // Same kind and same value; arrays element by element, objects by identity.
     friend bool operator==(const Variant& a, const Variant& b);
 
-private:
+  private:
     struct ArrayBox {
         std::unique_ptr<VariantArray> array;
     };
@@ -118,7 +145,7 @@ private:
 
 // A one-dimensional array with a lower bound, as the classic runtime's dynamic arrays are.
 class VariantArray {
-public:
+  public:
     VariantArray() = default;
     // An array of `count` default elements (Empty, "", 0, ...) starting at `lowerBound`.
     VariantArray(ElementKind kind, int32_t lowerBound, size_t count);
@@ -147,7 +174,7 @@ public:
 
     friend bool operator==(const VariantArray& a, const VariantArray& b) = default;
 
-private:
+  private:
     ElementKind kind_ = ElementKind::Variant;
     int32_t lowerBound_ = 0;
     std::vector<Variant> elements_;

@@ -9,13 +9,12 @@ namespace trovane {
 namespace {
 
 Variant& Arg(std::span<Variant> args, size_t index) {
-    if (index >= args.size()) throw Error(ErrorNumber::InvalidCall);
-    return args[index];
+    return RequiredArgument(args, index);
 }
 
 // Any object reached by the connection's member names.
 class LateBoundConnection final : public Connection {
-public:
+  public:
     explicit LateBoundConnection(Variant target) : target_(std::move(target)) {}
 
     std::string ClassName() const override { return target_.AsObject()->ClassName(); }
@@ -27,25 +26,27 @@ public:
         result = std::move(args[2]);
         status = ToInt32(args[3]);
     }
-    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t updateRate,
-                  int32_t& subscriptionHandle, Variant& results) override {
-        Variant args[] = {clientHandles, itemPaths, updateRate, subscriptionHandle, Variant()};
+    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t itemType,
+                  int32_t updateRate, int32_t& subscriptionHandle, Variant& results) override {
+        Variant args[] = {clientHandles, itemPaths, itemType, updateRate, subscriptionHandle, Variant()};
         CallMethod(target_, "AddItems", args);
-        subscriptionHandle = ToInt32(args[3]);
-        results = std::move(args[4]);
+        subscriptionHandle = ToInt32(args[4]);
+        results = std::move(args[5]);
     }
     void SetCallback(SysDataCallback*, int32_t) override {
         // A late-bound connection cannot take a C++ callback; hosts that subscribe pass a Connection.
         throw Error(ErrorNumber::MemberNotSupported, "SetCallback");
     }
-    void RemoveItems(int32_t subscriptionHandle) override { CallMethod(target_, "RemoveItems", {subscriptionHandle}); }
+    void RemoveItems(int32_t subscriptionHandle) override {
+        CallMethod(target_, "RemoveItems", {subscriptionHandle});
+    }
     void RefreshItems(int32_t subscriptionHandle, int32_t source, Variant& results) override {
         Variant args[] = {subscriptionHandle, source, Variant()};
         CallMethod(target_, "RefreshItems", args);
         results = std::move(args[2]);
     }
 
-private:
+  private:
     Variant target_;
 };
 
@@ -62,8 +63,9 @@ Variant Connection::Invoke(std::string_view member, CallKind kind, std::span<Var
     }
     if (EqualsIgnoringCase(member, "AddItems")) {
         int32_t handle = 0;
-        AddItems(Arg(args, 0), Arg(args, 1), ToInt32(Arg(args, 2)), handle, Arg(args, 4));
-        args[3] = handle;
+        AddItems(Arg(args, 0), Arg(args, 1), ToInt32(Arg(args, 2)), ToInt32(Arg(args, 3)), handle,
+                 Arg(args, 5));
+        args[4] = handle;
         return Variant();
     }
     if (EqualsIgnoringCase(member, "RemoveItems")) {

@@ -16,7 +16,7 @@
 namespace trovane {
 
 class Connection : public Object {
-public:
+  public:
     std::string ClassName() const override { return "Connection"; }
 
     // True when commands can be executed now.
@@ -25,10 +25,11 @@ public:
     virtual void ExecuteCommand(int16_t application, const std::string& command, Variant& result,
                                 int32_t& status) = 0;
 
-    // Subscribes the item paths (array of strings) with the parallel client handles (array of 32-bit);
-    // writes the new subscription handle and the per-item results.
-    virtual void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t updateRate,
-                          int32_t& subscriptionHandle, Variant& results) = 0;
+    // Subscribes the item paths (array of strings) with the parallel client handles (array of 32-bit),
+    // of the given item type (0 for plain attribute values) and update rate; writes the new
+    // subscription handle and the per-item results.
+    virtual void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t itemType,
+                          int32_t updateRate, int32_t& subscriptionHandle, Variant& results) = 0;
     // Routes the subscription's changes to `callback` until RemoveItems. The callback is not owned:
     // whoever registers it removes the subscription before the callback goes away.
     virtual void SetCallback(SysDataCallback* callback, int32_t subscriptionHandle) = 0;

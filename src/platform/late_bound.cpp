@@ -37,18 +37,6 @@ bool HasMember(const Variant& target, std::string_view member) {
     return true;
 }
 
-bool DispatchObject::CaseInsensitiveLess::operator()(std::string_view a, std::string_view b) const {
-    const size_t n = std::min(a.size(), b.size());
-    for (size_t i = 0; i < n; ++i) {
-        char x = a[i];
-        char y = b[i];
-        if (x >= 'A' && x <= 'Z') x = static_cast<char>(x + 32);
-        if (y >= 'A' && y <= 'Z') y = static_cast<char>(y + 32);
-        if (x != y) return x < y;
-    }
-    return a.size() < b.size();
-}
-
 DispatchObject& DispatchObject::Method(std::string name, Handler handler) {
     members_[std::move(name)].method = std::move(handler);
     return *this;
@@ -61,7 +49,9 @@ DispatchObject& DispatchObject::Property(std::string name, Getter get, Setter pu
     return *this;
 }
 
-bool DispatchObject::Answers(std::string_view member) const { return members_.find(member) != members_.end(); }
+bool DispatchObject::Answers(std::string_view member) const {
+    return members_.find(member) != members_.end();
+}
 
 // A parameterless method may be read like a property and a property read like a parameterless
 // method, as late binding allows; only a put needs a put handler.

@@ -27,7 +27,7 @@ void PutProperty(const Variant& target, std::string_view member, Variant value);
 bool HasMember(const Variant& target, std::string_view member);
 
 class DispatchObject : public Object {
-public:
+  public:
     using Handler = std::function<Variant(std::span<Variant> args)>;
     using Getter = std::function<Variant()>;
     using Setter = std::function<void(const Variant& value)>;
@@ -42,11 +42,7 @@ public:
     DispatchObject& Property(std::string name, Getter get, Setter put = nullptr);
     bool Answers(std::string_view member) const;
 
-private:
-    struct CaseInsensitiveLess {
-        using is_transparent = void;
-        bool operator()(std::string_view a, std::string_view b) const;
-    };
+  private:
     struct Member {
         Handler method;
         Getter get;

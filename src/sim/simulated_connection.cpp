@@ -70,7 +70,7 @@ SimulatedConnection::Item SimulatedConnection::MakeItem(int32_t clientHandle, co
     return item;
 }
 
-void SimulatedConnection::AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t,
+void SimulatedConnection::AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t, int32_t,
                                    int32_t& subscriptionHandle, Variant& results) {
     const VariantArray& handles = ArrayArgument(clientHandles, "the client handles");
     const VariantArray& paths = ArrayArgument(itemPaths, "the item paths");

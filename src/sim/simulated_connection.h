@@ -37,8 +37,10 @@ class SimulatedConnection final : public Connection {
     bool IsReady() override { return ready_; }
     void ExecuteCommand(int16_t application, const std::string& command, Variant& result,
                         int32_t& status) override;
-    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t updateRate,
-                  int32_t& subscriptionHandle, Variant& results) override;
+    // The item type and update rate are accepted and not needed: the simulation reports every
+    // change at the next Pump.
+    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t itemType,
+                  int32_t updateRate, int32_t& subscriptionHandle, Variant& results) override;
     void SetCallback(SysDataCallback* callback, int32_t subscriptionHandle) override;
     void RemoveItems(int32_t subscriptionHandle) override;
     void RefreshItems(int32_t subscriptionHandle, int32_t source, Variant& results) override;

@@ -24,7 +24,8 @@ TEST(BlockingCommands, QualificationHasNoApplyToArgument) {
 }
 
 TEST(BlockingCommands, NegativeIndexKeepsItsSign) {
-    EXPECT_EQ(ObjectReferenceText("ABC", -1), R"(("ABC",-1))");
+    EXPECT_EQ(GetEnabledBlockingsCommand("ABC", -1),
+              R"(#return do(BGU_BLOCK:C, "GET_ENABLED_BLOCKINGS", ("ABC",-1)))");
 }
 
 TEST(BlockingCommands, OnlyACheckedEnabledOptionSelectsTheSignal) {

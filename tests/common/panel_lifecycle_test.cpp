@@ -10,82 +10,130 @@
 #include "platform/controls/controls.h"
 #include "platform/late_bound.h"
 #include "services_fixture.h"
+#include "support/error_number.h"
 #include "support/fake_container.h"
 
 namespace trovane::testing {
 namespace {
 
-TEST(PanelItemsTest, ItemPathsAndRequestListsWithHandleKForItemK) {
+TEST(PanelItemsTest, ItemPathsAndRequestListsCarryTheDeclaredHandles) {
     EXPECT_EQ(ItemPath(1, "ABC", "GC"), "\\\\APL\\1\\P\\ABC:GC");
     EXPECT_EQ(IndexedItemPath(1, "ABC", 10, "CO"), "\\\\APL\\1\\P\\ABC\\10:CO");
     EXPECT_EQ(ApplicationItemPath(1, "AT"), "\\\\APL\\1:AT");
-    const SubscriptionRequest request = BuildSubscriptionRequest({"a", "b"});
+    const SubscriptionRequest request = BuildSubscriptionRequest({{1, "a", nullptr}, {4, "b", nullptr}});
     EXPECT_EQ(request.itemPaths, Variant(VariantArray(ElementKind::String, 1, {"a", "b"})));
-    EXPECT_EQ(request.clientHandles, Variant(VariantArray(ElementKind::Long, 1, {1, 2})));
+    EXPECT_EQ(request.clientHandles, Variant(VariantArray(ElementKind::Long, 1, {1, 4})));
 }
 
-// A panel with two items that records what reached each of them.
+// A panel with items on handles 1, 3 and 4 (2 left out, as the operation counter does for some
+// objects) that records what reached each item and each end of a batch. Item 4 fails on "bad";
+// whether that failure is isolated is the test's choice.
 class RecordingPanel final : public SysDataCallback {
   public:
     void OnDataChange(int32_t, int32_t, int32_t count, const Variant& handles, const Variant& values,
                       const Variant&, const Variant&) override {
         subscription.Dispatch(count, handles, values);
     }
-    std::vector<SubscribedItem> Items() {
-        return {{"\\\\APL\\1\\P\\ABC:GC", [this](const Variant& v) { comment = v; }},
-                {"\\\\APL\\1\\P\\ABC:OV", [this](const Variant& v) { value = v; }}};
+    std::vector<SubscribedItem> Items(bool isolateFailures = false) {
+        return {{1, "\\\\APL\\1\\P\\ABC:GC", [this](const Variant& v) { Record("GC", v); }},
+                {3, "\\\\APL\\1\\P\\ABC\\10:CO", [this](const Variant& v) { Record("CO", v); }},
+                {4, "\\\\APL\\1\\P\\ABC\\10:CL",
+                 [this](const Variant& v) {
+                     if (v == Variant("bad")) throw Error(ErrorNumber::TypeMismatch);
+                     Record("CL", v);
+                 },
+                 isolateFailures}};
     }
+    void Record(const std::string& item, const Variant& v) { applied.push_back(item + "=" + ToString(v)); }
     PanelSubscription subscription;
-    std::optional<Variant> comment;
-    std::optional<Variant> value;
+    std::vector<std::string> applied;
 };
 
 class SubscriptionTest : public ::testing::Test {
   protected:
-    void SetUp() override { panel.subscription.Activate(connection->AsVariant(), panel.Items(), panel); }
+    void Activate(bool isolateFailures = false) {
+        panel.subscription.afterBatch = [this] { panel.applied.push_back("|"); };
+        panel.subscription.onIsolatedFailure = [this](const SubscribedItem& item, const std::exception&) {
+            panel.applied.push_back("failed " + std::to_string(item.clientHandle));
+        };
+        panel.subscription.Activate(connection->AsVariant(), panel.Items(isolateFailures), panel);
+    }
     std::shared_ptr<FakeConnection> connection = std::make_shared<FakeConnection>();
     RecordingPanel panel;
 };
 
-TEST_F(SubscriptionTest, ActivateSubscribesAtRate200AndChangesReachTheirItemByClientHandleInBatchOrder) {
+TEST_F(SubscriptionTest, ChangesFindTheirItemByHandleInBatchOrderAndTheHookEndsEachBatch) {
+    Activate();
     ASSERT_EQ(connection->subscriptions.size(), 1u);
     const auto& subscription = connection->subscriptions[0];
+    EXPECT_EQ(subscription.itemType, 0);
     EXPECT_EQ(subscription.updateRate, 200);
-    EXPECT_EQ(subscription.itemPaths.AsArray().At(2), Variant("\\\\APL\\1\\P\\ABC:OV"));
+    EXPECT_EQ(subscription.clientHandles, MakeLongArray({1, 3, 4}, 1));
     EXPECT_EQ(subscription.callback, &panel);
     EXPECT_EQ(panel.subscription.SubscriptionHandle(), 1);
-    connection->Notify(1, {0, 3, -1}, {"a", "b", "c"});
-    EXPECT_FALSE(panel.comment || panel.value);
-    connection->Notify(1, {2, 7, 1, 1}, {"v", "ignored", "first", "second"});
-    EXPECT_EQ(panel.value, Variant("v"));
-    EXPECT_EQ(panel.comment, Variant("second"));
-    panel.subscription.Dispatch(5, MakeLongArray({1}),
-                                MakeVariantArray({"only"}));  // count beyond the arrays
-    EXPECT_EQ(panel.comment, Variant("only"));
+
+    connection->Notify(1, {2, 0, 99, -1}, {"a", "b", "c", "d"});  // handles the panel never declared
+    connection->Notify(1, {4, 1, 7, 3, 1}, {"x", "first", "ignored", "5", "second"});
+    panel.subscription.Dispatch(5, MakeLongArray({3}), MakeVariantArray({"6"}));  // count beyond the arrays
+    EXPECT_EQ(panel.applied,
+              (std::vector<std::string>{"|", "CL=x", "GC=first", "CO=5", "GC=second", "|", "CO=6", "|"}));
 }
 
-TEST_F(SubscriptionTest, DeactivateRemovesTheSubscriptionAndReleasesTheConnection) {
-    panel.subscription.Refresh();
+TEST_F(SubscriptionTest, AFailingItemStopsItsBatchUnlessItIsIsolated) {
+    Activate();
+    EXPECT_THROW(connection->Notify(1, {1, 4, 3}, {"a", "bad", "c"}), Error);
+    EXPECT_EQ(panel.applied, (std::vector<std::string>{"GC=a"}));
+
+    panel.applied.clear();
     panel.subscription.Deactivate();
+    Activate(true);
+    connection->Notify(2, {1, 4, 3}, {"a", "bad", "c"});
+    EXPECT_EQ(panel.applied, (std::vector<std::string>{"GC=a", "failed 4", "CO=c", "|"}));
+}
+
+TEST_F(SubscriptionTest, ItemTypeAndRateReachTheConnectionAndSharedHandlesAreRefused) {
+    panel.subscription.Activate(connection->AsVariant(), {{1, "\\\\APL\\1:AT", nullptr}}, panel, {1, 500});
+    EXPECT_EQ(connection->subscriptions.at(0).itemType, 1);
+    EXPECT_EQ(connection->subscriptions.at(0).updateRate, 500);
+    RecordingPanel other;
+    EXPECT_EQ(ErrorNumberOf([&] {
+                  other.subscription.Activate(connection->AsVariant(), {{2, "a", nullptr}, {2, "b", nullptr}},
+                                              other);
+              }),
+              5);
+    EXPECT_EQ(connection->subscriptions.size(), 1u);
+    EXPECT_EQ(ErrorNumberOf([&] { other.subscription.Activate(Variant::Nothing(), other.Items(), other); }),
+              91);
+}
+
+TEST_F(SubscriptionTest, DeactivateRemovesTheSubscriptionAndASecondActivateForgetsTheFirst) {
+    Activate();
+    panel.subscription.Refresh();
     EXPECT_EQ(connection->refreshes.at(0).handle, 1);
     EXPECT_EQ(connection->refreshes.at(0).source, 1);
-    EXPECT_EQ(connection->removedHandles, std::vector<int32_t>{1});
+    Activate();  // without Deactivate: subscription 1 stays with the server
+    panel.subscription.Deactivate();
+    EXPECT_EQ(connection->removedHandles, std::vector<int32_t>{2});
     EXPECT_FALSE(panel.subscription.IsActive());
     EXPECT_TRUE(panel.subscription.Server().IsNothing());
+    panel.subscription.Refresh();
+    EXPECT_EQ(connection->refreshes.size(), 1u);
 }
 
-// A connection that hands out handle 0 and fails on removal.
+// A connection that hands out subscription handle 0 and records what it was asked to remove.
 class ZeroHandleConnection final : public FakeConnection {
   public:
-    void AddItems(const Variant&, const Variant&, int32_t, int32_t& handle, Variant&) override { handle = 0; }
-    void RemoveItems(int32_t) override { throw Error(ErrorNumber::InvalidCall); }
+    void AddItems(const Variant&, const Variant&, int32_t, int32_t, int32_t& handle, Variant&) override {
+        handle = 0;
+    }
 };
 
-TEST(SubscriptionEndTest, HandleZeroSkipsRemoveAndDestroyingAnActiveSubscriptionRemovesIt) {
+TEST(SubscriptionEndTest, HandleZeroRemovesNothingAndDestroyingAnActiveSubscriptionRemovesIt) {
     auto zero = std::make_shared<ZeroHandleConnection>();
     RecordingPanel panel;
     panel.subscription.Activate(zero->AsVariant(), panel.Items(), panel);
-    EXPECT_NO_THROW(panel.subscription.Deactivate());
+    panel.subscription.Deactivate();
+    EXPECT_TRUE(zero->removedHandles.empty());
     EXPECT_FALSE(panel.subscription.IsActive());
     EXPECT_EQ(zero.use_count(), 1);
 

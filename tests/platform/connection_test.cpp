@@ -23,8 +23,8 @@ std::shared_ptr<DispatchObject> MakeForeignConnection(bool& ready, std::vector<s
         return Variant();
     });
     object->Method("AddItems", [](std::span<Variant> args) {
-        args[3] = Variant(int32_t{5});
-        args[4] = MakeLongArray({0});
+        args[4] = Variant(ToInt32(args[2]) * 10 + 5);  // the handle tells the item type arrived
+        args[5] = MakeLongArray({0});
         return Variant();
     });
     return object;
@@ -49,8 +49,8 @@ TEST(ConnectionOf, ReachesAForeignObjectByMemberName) {
 
     int32_t handle = 0;
     Variant results;
-    connection->AddItems(MakeLongArray({1}), MakeStringArray({"\\\\APL\\1:AT"}), 200, handle, results);
-    EXPECT_EQ(handle, 5);
+    connection->AddItems(MakeLongArray({1}), MakeStringArray({"\\\\APL\\1:AT"}), 1, 500, handle, results);
+    EXPECT_EQ(handle, 15);
     EXPECT_EQ(TypeName(results), "Long()");
 }
 

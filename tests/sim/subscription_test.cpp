@@ -18,7 +18,8 @@ class SubscriptionTest : public DemoServerTest {
         for (size_t i = 0; i < paths.size(); ++i) handles.push_back(static_cast<int32_t>(i) + 1);
         int32_t handle = 0;
         Variant itemResults;
-        connection->AddItems(MakeLongArray(handles, 1), MakeStringArray(paths, 1), 200, handle, itemResults);
+        connection->AddItems(MakeLongArray(handles, 1), MakeStringArray(paths, 1), 0, 200, handle,
+                             itemResults);
         connection->SetCallback(&callback, handle);
         if (results) *results = itemResults;
         if (quietly) {
@@ -35,7 +36,7 @@ TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePump) {
     int32_t handle = 0;
     Variant results;
     connection->AddItems(MakeLongArray({1, 2}, 1),
-                         MakeStringArray({"\\\\APL\\1\\P\\ABC:GC", "\\\\APL\\1\\P\\ABC\\10:CV"}, 1), 200,
+                         MakeStringArray({"\\\\APL\\1\\P\\ABC:GC", "\\\\APL\\1\\P\\ABC\\10:CV"}, 1), 0, 200,
                          handle, results);
     EXPECT_EQ(connection->Pump(), 0);
     connection->SetCallback(&callback, handle);
@@ -121,10 +122,10 @@ TEST_F(SubscriptionTest, UnknownItemsAreRefusedPerItem) {
 TEST_F(SubscriptionTest, MalformedAddItemsArgumentsRaiseAClearError) {
     int32_t handle = 0;
     Variant results;
-    EXPECT_THROW(connection->AddItems(Variant(int32_t{1}), MakeStringArray({"x"}, 1), 200, handle, results),
-                 Error);
     EXPECT_THROW(
-        connection->AddItems(MakeLongArray({1, 2}, 1), MakeStringArray({"x"}, 1), 200, handle, results),
+        connection->AddItems(Variant(int32_t{1}), MakeStringArray({"x"}, 1), 0, 200, handle, results), Error);
+    EXPECT_THROW(
+        connection->AddItems(MakeLongArray({1, 2}, 1), MakeStringArray({"x"}, 1), 0, 200, handle, results),
         Error);
     EXPECT_THROW(connection->SetCallback(&callback, 4711), Error);
 }

@@ -37,6 +37,7 @@ class FakeConnection : public Connection {
         int32_t handle = 0;
         Variant clientHandles;
         Variant itemPaths;
+        int32_t itemType = 0;
         int32_t updateRate = 0;
         SysDataCallback* callback = nullptr;
         bool removed = false;
@@ -81,11 +82,11 @@ class FakeConnection : public Connection {
         return texts;
     }
 
-    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t updateRate,
-                  int32_t& subscriptionHandle, Variant& results) override {
+    void AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t itemType,
+                  int32_t updateRate, int32_t& subscriptionHandle, Variant& results) override {
         subscriptionHandle = static_cast<int32_t>(subscriptions.size()) + 1;
         subscriptions.push_back(
-            Subscription{subscriptionHandle, clientHandles, itemPaths, updateRate, nullptr, false});
+            Subscription{subscriptionHandle, clientHandles, itemPaths, itemType, updateRate, nullptr, false});
         const size_t count = itemPaths.IsArray() ? itemPaths.AsArray().Size() : 0;
         results = MakeLongArray(std::vector<int32_t>(count, 0));
     }

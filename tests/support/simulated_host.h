@@ -31,18 +31,20 @@ class SimulatedHost : public DispatchObject {
           connection_(std::make_shared<sim::SimulatedConnection>(server_)),
           objectName_(std::move(objectName)),
           objectIndex_(objectIndex) {
-        Method("RunVexlCmd", [this](std::span<Variant> args) { return RunVexlCmd(ToString(Arg(args, 0))); });
+        Method("RunVexlCmd",
+               [this](std::span<Variant> args) { return RunVexlCmd(ToString(RequiredArgument(args, 0))); });
         Method("RunVexlCmdWithStatus", [this](std::span<Variant> args) {
-            int32_t status = ToInt32(Arg(args, 1));
-            Variant result = common_.RunVexlCmdGlobalWithStatus(Server(), ToString(Arg(args, 0)), 1, status);
+            int32_t status = ToInt32(RequiredArgument(args, 1));
+            Variant result =
+                common_.RunVexlCmdGlobalWithStatus(Server(), ToString(RequiredArgument(args, 0)), 1, status);
             args[1] = status;
             return result;
         });
         Method("GetNlsString", [this](std::span<Variant> args) {
-            return Variant(common_.GetNlsString(ToInt32(Arg(args, 0))));
+            return Variant(common_.GetNlsString(ToInt32(RequiredArgument(args, 0))));
         });
         Method("SetCharsetValues", [this](std::span<Variant> args) {
-            common_.SetCharsetValues(Arg(args, 0));
+            common_.SetCharsetValues(RequiredArgument(args, 0));
             return Variant();
         });
         for (const char* right : {"IsUserAuthorized", "IsUserEngineer", "IsAlarmHandlingAllowed",
@@ -78,11 +80,6 @@ class SimulatedHost : public DispatchObject {
     std::vector<Request> requests;
 
   private:
-    static Variant& Arg(std::span<Variant> args, size_t index) {
-        if (index >= args.size()) throw Error(ErrorNumber::InvalidCall);
-        return args[index];
-    }
-
     std::shared_ptr<sim::SimulatedServer> server_;
     std::shared_ptr<sim::SimulatedConnection> connection_;
     CommonFunctions common_;

@@ -1,0 +1,178 @@
+// The panel base, traced operations, shared command text and the standard container members.
+
+#include <gtest/gtest.h>
+
+#include "common/command_text.h"
+#include "common/panel.h"
+#include "common/standard_container.h"
+#include "common/traced_operation.h"
+#include "core/conversions.h"
+#include "platform/controls/controls.h"
+#include "support/error_number.h"
+#include "support/fake_container.h"
+#include "support/trace_capture.h"
+
+namespace trovane::testing {
+namespace {
+
+// A small panel, written the way the architecture document shows, with one subscribed item.
+class CounterPanel final : public Panel {
+  public:
+    CounterPanel() : Panel("Counter"), lblCount(Add<Label>("lblCount")) {
+        lblCount.SetTag("270");
+        Members().Method("Init", [this](std::span<Variant>) { return Init(); });
+        Members().Property("Shown", [this] { return Variant(lblCount.Caption()); });
+    }
+    Variant Init() {
+        Traced(
+            "Init",
+            [this] {
+                SetUpControls();
+                ShowCount();
+                return true;
+            },
+            OnFailure::Raise);
+        return Variant();
+    }
+    void Activate(const Variant& server) {
+        subscription.Activate(server,
+                              {{7, "\\\\APL\\1\\P\\ABC:CO",
+                                [this](const Variant& v) {
+                                    if (v.IsString()) throw Error(ErrorNumber::TypeMismatch);
+                                    lblCount.SetCaption(ToString(v));
+                                }}},
+                              *this);
+    }
+    void ShowCount() { lblCount.SetCaption(ToString(RunVexlCmd("#return ABC:CO"))); }
+    Variant Status(int32_t& status) { return RunVexlCmdWithStatus("#return ABC:CO", status); }
+    bool Allowed() const { return IsAllowed("IsBlockingHandlingAllowed"); }
+    Label& lblCount;
+};
+
+class PanelTest : public ::testing::Test {
+  protected:
+    void SetUp() override { panel->SetParent(container->AsVariant()); }
+    FakeConnection& Connection() { return container->ConnectionObject(); }
+
+    std::shared_ptr<FakeContainer> container = std::make_shared<FakeContainer>();
+    std::shared_ptr<CounterPanel> panel = std::make_shared<CounterPanel>();
+    TraceCapture trace;
+};
+
+TEST_F(PanelTest, InitTracesSetsCaptionsAndCharsetThenAsksTheContainer) {
+    Connection().QueueAnswer(Variant(int32_t{42}));
+    CallMethod(Variant(ObjectRef(panel)), "Init");
+    EXPECT_EQ(panel->lblCount.Caption(), "42");
+    EXPECT_EQ(trace.Lines().front(), "-> Counter.Init");
+    EXPECT_EQ(trace.Lines().back(), "<- Counter.Init");
+    EXPECT_EQ(container->CallsOf("GetNlsString").size(), 1u);
+    EXPECT_EQ(container->CallsOf("SetCharsetValues").size(), 1u);
+    // Members registered by the panel answer first; the form's own still answer after them.
+    EXPECT_EQ(GetProperty(Variant(ObjectRef(panel)), "Shown"), Variant("42"));
+    EXPECT_EQ(GetProperty(Variant(ObjectRef(panel)), "Parent"), container->AsVariant());
+    EXPECT_TRUE(GetProperty(Variant(ObjectRef(panel)), "lblCount").IsObject());
+}
+
+TEST_F(PanelTest, TheContainerIsNotKeptAliveAndAGoneContainerIsNotSet) {
+    std::weak_ptr<FakeContainer> watch = container;
+    container.reset();
+    EXPECT_TRUE(watch.expired());
+    EXPECT_TRUE(panel->Parent().IsNothing());
+    EXPECT_EQ(ErrorNumberOf([&] { panel->ShowCount(); }), 91);
+    EXPECT_EQ(ErrorNumberOf([&] { panel->Init(); }), 91);
+    EXPECT_EQ(trace.Lines().back(), "<- Counter.Init ERROR OCCURRED!!!");
+}
+
+TEST_F(PanelTest, StatusIsWrittenBackOnlyWhenACommandWasSentAndRightsAreAskedByName) {
+    int32_t status = -7;
+    Connection().SetReady(false);
+    EXPECT_TRUE(panel->Status(status).IsEmpty());
+    EXPECT_EQ(status, -7);
+    Connection().SetReady(true);
+    Connection().QueueAnswer(Variant(), 13);
+    panel->Status(status);
+    EXPECT_EQ(status, 13);
+
+    EXPECT_TRUE(panel->Allowed());
+    container->SetRight("IsBlockingHandlingAllowed", false);
+    EXPECT_FALSE(panel->Allowed());
+}
+
+TEST_F(PanelTest, AFailingNotificationIsTracedAndGoesNoFurther) {
+    panel->Activate(Connection().AsVariant());
+    Connection().Notify(1, {7}, {Variant(int32_t{5})});
+    EXPECT_EQ(panel->lblCount.Caption(), "5");
+    EXPECT_NO_THROW(Connection().Notify(1, {7}, {Variant("five")}));
+    EXPECT_EQ(trace.Lines().back(), "<- Counter.ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
+}
+
+TEST(TracedOperationTest, ExitLinesAndWhatHappensToTheFailure) {
+    struct Case {
+        const char* name;
+        std::function<bool()> body;
+        OnFailure onFailure;
+        bool result;
+        bool raises;
+        const char* exitLine;
+    };
+    const auto fails = []() -> bool { throw Error(ErrorNumber::Overflow); };
+    const std::vector<Case> cases = {
+        {"succeeds", [] { return true; }, OnFailure::Stop, true, false, "<- X.Op"},
+        {"returns false", [] { return false; }, OnFailure::Stop, false, false, "<- X.Op ERROR OCCURRED!!!"},
+        {"throws, stops", fails, OnFailure::Stop, false, false, "<- X.Op ERROR OCCURRED!!!"},
+        {"throws, raises", fails, OnFailure::Raise, false, true, "<- X.Op ERROR OCCURRED!!!"},
+        {"false, raising", [] { return false; }, OnFailure::Raise, true, false, "<- X.Op"},
+    };
+    for (const Case& c : cases) {
+        TraceCapture trace;
+        bool result = false;
+        bool raised = false;
+        try {
+            result = RunTraced("X.Op", "X.Op", c.onFailure, c.body);
+        } catch (const Error&) {
+            raised = true;
+        }
+        EXPECT_EQ(raised, c.raises) << c.name;
+        if (!raised) EXPECT_EQ(result, c.result) << c.name;
+        EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> X.Op", c.exitLine})) << c.name;
+    }
+    TraceCapture trace;
+    RunTraced("Dialup.Init", "DialUp.Init", OnFailure::Stop, [] { return true; });
+    EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> Dialup.Init", "<- DialUp.Init"}));
+}
+
+TEST(CommandTextTest, ObjectReferenceAndQuoteDoubling) {
+    EXPECT_EQ(ObjectReferenceText("ABC", 10), R"(("ABC",10))");
+    EXPECT_EQ(ObjectReferenceText("ABC", -1), R"(("ABC",-1))");
+    EXPECT_EQ(WithQuotesDoubled(R"(say "hi" to O'Neil)"), R"(say ""hi"" to O''Neil)");
+    EXPECT_EQ(WithQuotesDoubled("plain"), "plain");
+    EXPECT_EQ(WithQuotesDoubled(""), "");
+}
+
+TEST(StandardContainerTest, AnswersTheStandardMembersFromItsSettings) {
+    auto functions = std::make_shared<CommonFunctions>();
+    functions->SetLanguage("DE");
+    auto connection = std::make_shared<FakeConnection>();
+    UserRights rights = UserRights::None();
+    rights.engineer = true;
+    auto container = std::make_shared<StandardContainer>(
+        "frmHost", functions, ContainerSettings{connection->AsVariant(), 3, "anna", rights});
+    const Variant host(ObjectRef{container});
+    EXPECT_EQ(CallMethod(host, "getLang"), Variant("DE"));
+    EXPECT_EQ(GetProperty(host, "sUserName"), Variant("anna"));
+    EXPECT_EQ(CallMethod(host, "IsUserEngineer"), Variant(true));
+    EXPECT_EQ(CallMethod(host, "IsSubstitutionHandlingAllowed"), Variant(false));
+
+    connection->SetReady(false);
+    std::vector<Variant> args{Variant("#return 1"), Variant(int32_t{99})};
+    EXPECT_TRUE(CallMethod(host, "RunVexlCmdWithStatus", std::span<Variant>(args)).IsEmpty());
+    EXPECT_EQ(args[1], Variant(int32_t{99}));
+    connection->SetReady(true);
+    connection->QueueAnswer(Variant("one"));
+    EXPECT_EQ(CallMethod(host, "RunVexlCmd", {Variant("#return 1")}), Variant("one"));
+    EXPECT_EQ(connection->sent.back().application, 3);
+    EXPECT_EQ(ErrorNumberOf([&] { CallMethod(host, "RunVexlCmdWithStatus", {Variant("#return 1")}); }), 449);
+}
+
+}  // namespace
+}  // namespace trovane::testing
