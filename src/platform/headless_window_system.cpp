@@ -1,6 +1,10 @@
 #include "platform/headless_window_system.h"
 
+#include <cmath>
 #include <limits>
+
+#include "platform/controls/form.h"
+#include "platform/controls/frame.h"
 
 namespace trovane {
 
@@ -69,6 +73,50 @@ void HeadlessWindowSystem::SetWindowPos(int32_t hwnd, int32_t insertAfter, int32
 
 bool HeadlessWindowSystem::IsTopmost(int32_t hwnd) {
     return (GetWindowLong(hwnd, kExtendedStyleIndex) & kTopmostStyle) != 0;
+}
+
+ScreenRect HeadlessWindowSystem::ControlScreenRect(const Control& control) {
+    return ControlRectFromTwips(control, twipsPerPixelX_, twipsPerPixelY_);
+}
+
+const HeadlessWindowSystem::Balloon* HeadlessWindowSystem::BalloonOf(const Form& owner) const {
+    const auto found = balloons_.find(&owner);
+    return found != balloons_.end() ? &found->second : nullptr;
+}
+
+int32_t HeadlessWindowSystem::ShowBalloon(const Form& owner, ScreenRect target, const BalloonTip& tip) {
+    const int32_t hwnd = nextBalloonHandle_++;
+    balloons_[&owner] = Balloon{hwnd, target, tip};
+    return hwnd;
+}
+
+void HeadlessWindowSystem::MoveBalloon(const Form& owner, ScreenRect target) {
+    const auto found = balloons_.find(&owner);
+    if (found != balloons_.end()) found->second.target = target;
+}
+
+void HeadlessWindowSystem::HideBalloon(const Form& owner) {
+    balloons_.erase(&owner);
+}
+
+ScreenRect ControlRectFromTwips(const Control& control, double twipsPerPixelX, double twipsPerPixelY) {
+    // Sums in 64 bits: a position far out on a large form cannot overflow on the way.
+    int64_t left = control.Left();
+    int64_t top = control.Top();
+    for (const Frame* frame = control.Container(); frame != nullptr; frame = frame->Container()) {
+        left += frame->Left();
+        top += frame->Top();
+    }
+    if (const Form* form = control.ParentForm()) {
+        left += form->Left();
+        top += form->Top();
+    }
+    const auto pixels = [](int64_t twips, double twipsPerPixel) {
+        return static_cast<int32_t>(std::lround(static_cast<double>(twips) / twipsPerPixel));
+    };
+    return ScreenRect{pixels(left, twipsPerPixelX), pixels(top, twipsPerPixelY),
+                      pixels(left + control.Width(), twipsPerPixelX),
+                      pixels(top + control.Height(), twipsPerPixelY)};
 }
 
 }  // namespace trovane

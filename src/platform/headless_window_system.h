@@ -7,7 +7,9 @@
 // position request. Ordering requests take effect as they would on a screen: a request for the
 // topmost band (insert-after -1 without the "no z-order change" flag) sets the window's topmost bit
 // in its extended style. Operator input is a tick count recorded with RecordInput; until the first
-// one the last-input time cannot be read.
+// one the last-input time cannot be read. Balloons are records per owning form, each with a handle
+// of its own; a control's screen rectangle is its geometry in twips (inside its frames, on its
+// form, whose position is a screen position) divided by the twips per pixel.
 //
 // Out of the box there is one monitor of 1920 x 1080 pixels with a 40-pixel task bar at the bottom,
 // the cursor at its centre, and 15 twips per pixel in both directions.
@@ -53,6 +55,15 @@ class HeadlessWindowSystem final : public WindowSystem {
     bool IsTopmost(int32_t hwnd);
     int32_t OwnerOf(int32_t hwnd) { return GetWindowLong(hwnd, kOwnerIndex); }
 
+    struct Balloon {
+        int32_t hwnd;
+        ScreenRect target;
+        BalloonTip tip;
+    };
+    // The balloon `owner` shows, or nullptr.
+    const Balloon* BalloonOf(const Form& owner) const;
+    size_t BalloonCount() const { return balloons_.size(); }
+
     // ---- WindowSystem ------------------------------------------------------------------------
     ScreenPoint CursorPosition() override { return cursor_; }
     ScreenRect NearestWorkArea(ScreenPoint point) override;
@@ -63,6 +74,10 @@ class HeadlessWindowSystem final : public WindowSystem {
     void SetWindowPos(int32_t hwnd, int32_t insertAfter, int32_t x, int32_t y, int32_t cx, int32_t cy,
                       uint32_t flags) override;
     std::optional<uint32_t> LastInputTime() override { return lastInput_; }
+    ScreenRect ControlScreenRect(const Control& control) override;
+    int32_t ShowBalloon(const Form& owner, ScreenRect target, const BalloonTip& tip) override;
+    void MoveBalloon(const Form& owner, ScreenRect target) override;
+    void HideBalloon(const Form& owner) override;
 
   private:
     std::vector<Monitor> monitors_;
@@ -72,6 +87,12 @@ class HeadlessWindowSystem final : public WindowSystem {
     std::map<std::pair<int32_t, int32_t>, int32_t> windowLongs_;
     std::vector<PositionRequest> positionRequests_;
     std::optional<uint32_t> lastInput_;
+    std::map<const Form*, Balloon> balloons_;
+    int32_t nextBalloonHandle_ = 0x4000;
 };
+
+// A control's rectangle from its twips geometry: its own position inside its frames, on its form,
+// whose position is taken as the screen position of its client area.
+ScreenRect ControlRectFromTwips(const Control& control, double twipsPerPixelX, double twipsPerPixelY);
 
 }  // namespace trovane

@@ -1,6 +1,7 @@
 #include "platform/platform_services.h"
 
 #include "platform/color_scheme.h"
+#include "platform/headless_presenter.h"
 #include "platform/headless_window_system.h"
 
 #include "platform/pe_resource_files.h"
@@ -16,6 +17,7 @@ PlatformServices PlatformServices::Defaults() {
     services.windows = std::make_shared<HeadlessWindowSystem>();
     services.colorTool = std::make_shared<ColorScheme>(services.files);
     services.resources = std::make_shared<PeResourceFiles>(services.files);
+    services.presenter = std::make_shared<HeadlessPresenter>();
     return services;
 }
 

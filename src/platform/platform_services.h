@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/locale.h"
 #include "platform/message_box.h"
+#include "platform/presenter.h"
 #include "platform/resource_files.h"
 #include "platform/window_system.h"
 
@@ -22,6 +23,7 @@ struct PlatformServices {
     std::shared_ptr<WindowSystem> windows;
     std::shared_ptr<ResourceFiles> resources;
     std::shared_ptr<ColorSettingTool> colorTool;
+    std::shared_ptr<Presenter> presenter;
 
     static PlatformServices Defaults();
 };

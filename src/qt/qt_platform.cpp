@@ -12,6 +12,8 @@ QtPlatform MakeQtPlatform() {
     platform.windows = std::make_shared<QtWindowSystem>(platform.activity);
     platform.services.windows = platform.windows;
     platform.services.messageBox = std::make_shared<QtMessageBox>();
+    platform.presenter = std::make_shared<QtPresenter>(platform.windows);
+    platform.services.presenter = platform.presenter;
     return platform;
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 // The platform services of a Qt front end: the portable defaults, with the window system, the
-// message box and the input watch replaced by their Qt forms.
+// message box, the presenter and the input watch replaced by their Qt forms.
 
 #include <memory>
 
 #include "platform/platform_services.h"
 #include "qt/input_activity.h"
+#include "qt/qt_presenter.h"
 #include "qt/qt_window_system.h"
 
 namespace trovane::qt {
@@ -14,6 +15,7 @@ struct QtPlatform {
     PlatformServices services;
     std::shared_ptr<InputActivity> activity;
     std::shared_ptr<QtWindowSystem> windows;
+    std::shared_ptr<QtPresenter> presenter;
 };
 
 // Builds the Qt platform; a QApplication must exist. The input watch is installed at once.

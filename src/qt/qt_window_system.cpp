@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "platform/headless_window_system.h"
+#include "qt/form_view_lookup.h"
 #include "qt/twips.h"
 
 namespace trovane::qt {
@@ -15,6 +17,10 @@ namespace {
 ScreenRect ToScreenRect(const QRect& rect) {
     // QRect's right() is the last pixel inside; the classic rectangle's right is one past it.
     return ScreenRect{rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
+QRect ToQRect(const ScreenRect& rect) {
+    return QRect(rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
 }
 
 double SquaredDistance(const QRect& rect, const QPoint& point) {
@@ -111,6 +117,37 @@ void QtWindowSystem::SetWindowPos(int32_t hwnd, int32_t insertAfter, int32_t x, 
 
 std::optional<uint32_t> QtWindowSystem::LastInputTime() {
     return activity ? activity->LastInputTime() : std::nullopt;
+}
+
+ScreenRect QtWindowSystem::ControlScreenRect(const Control& control) {
+    if (const Form* form = control.ParentForm()) {
+        const FormView* view = FindFormView(*form);
+        if (const QWidget* widget = view ? view->WidgetOf(control) : nullptr)
+            return ToScreenRect(QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()));
+    }
+    return ControlRectFromTwips(control, TwipsPerPixelX(), TwipsPerPixelY());
+}
+
+int32_t QtWindowSystem::ShowBalloon(const Form& owner, ScreenRect target, const BalloonTip& tip) {
+    auto balloon = std::make_unique<BalloonTipWindow>(tip);
+    balloon->PointAt(ToQRect(target));
+    balloon->show();
+    const int32_t handle = HandleOf(balloon.get());
+    balloons[&owner] = std::move(balloon);  // the one shown before goes now
+    return handle;
+}
+
+void QtWindowSystem::MoveBalloon(const Form& owner, ScreenRect target) {
+    if (BalloonTipWindow* balloon = BalloonOf(owner)) balloon->PointAt(ToQRect(target));
+}
+
+void QtWindowSystem::HideBalloon(const Form& owner) {
+    balloons.erase(&owner);
+}
+
+BalloonTipWindow* QtWindowSystem::BalloonOf(const Form& owner) const {
+    const auto found = balloons.find(&owner);
+    return found != balloons.end() ? found->second.get() : nullptr;
 }
 
 // Qt parenthood with the window flags kept: the dialog stays a top-level window of its own, and Qt

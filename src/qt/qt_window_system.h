@@ -9,6 +9,10 @@
 // and closed with its owner), the topmost band becomes the stays-on-top hint, and the cursor and
 // work areas come from the screens Qt knows. Unknown handles, including 0, are ignored, as the
 // classic calls ignore a handle that names no window.
+//
+// A control's screen rectangle is its widget's, found through the view that shows its form; a
+// control without a widget on screen falls back to its twips geometry. Balloons are windows of
+// their own (BalloonTipWindow), one per owning form, registered for a handle like any window.
 
 #include <cstdint>
 #include <map>
@@ -18,6 +22,7 @@
 #include <QWidget>
 
 #include "platform/window_system.h"
+#include "qt/balloon_tip_window.h"
 #include "qt/input_activity.h"
 
 namespace trovane::qt {
@@ -43,6 +48,13 @@ class QtWindowSystem final : public WindowSystem {
 
     std::optional<uint32_t> LastInputTime() override;
 
+    ScreenRect ControlScreenRect(const Control& control) override;
+    int32_t ShowBalloon(const Form& owner, ScreenRect target, const BalloonTip& tip) override;
+    void MoveBalloon(const Form& owner, ScreenRect target) override;
+    void HideBalloon(const Form& owner) override;
+    // The balloon `owner` shows, or nullptr.
+    BalloonTipWindow* BalloonOf(const Form& owner) const;
+
     static constexpr int32_t kOwnerIndex = -8;
     static constexpr int32_t kExtendedStyleIndex = -20;
     static constexpr int32_t kTopmostStyle = 8;
@@ -58,6 +70,7 @@ class QtWindowSystem final : public WindowSystem {
 
     std::shared_ptr<InputActivity> activity;
     std::map<int32_t, QPointer<QWidget>> windows;
+    std::map<const Form*, std::unique_ptr<BalloonTipWindow>> balloons;
     int32_t nextHandle = 0x1000;
 };
 

@@ -1,0 +1,103 @@
+#include "platform/headless_presenter.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+
+namespace trovane::testing {
+namespace {
+
+using Kind = HeadlessPresenter::Record::Kind;
+
+// A dialog whose OK button unloads it from its own click, as the library's dialogs do.
+std::shared_ptr<Form> MakeDialog(const char* name) {
+    auto form = std::make_shared<Form>(name);
+    Form* self = form.get();
+    form->Add<CommandButton>("btnOK").onClick.Connect([self] { self->Unload(); });
+    return form;
+}
+
+TEST(HeadlessPresenterTest, PresentGivesAHandleBeforeLoadingAndDismissTakesItBack) {
+    HeadlessPresenter presenter;
+    auto dialog = MakeDialog("frmComment");
+    int32_t handleWhileLoading = 0;
+    dialog->onLoad.Connect([&] { handleWhileLoading = dialog->Hwnd(); });
+
+    presenter.Present(*dialog, 0x100, true);
+    const int32_t hwnd = dialog->Hwnd();
+    EXPECT_NE(hwnd, 0);
+    EXPECT_EQ(handleWhileLoading, hwnd);
+    EXPECT_TRUE(dialog->Loaded());
+    EXPECT_FALSE(dialog->Visible()) << "showing stays the caller's";
+
+    presenter.Present(*dialog, 0, false);  // presented again: same window, new owner and modality
+    EXPECT_EQ(dialog->Hwnd(), hwnd);
+    presenter.Dismiss(*dialog);
+    EXPECT_EQ(dialog->Hwnd(), 0);
+    EXPECT_FALSE(presenter.IsPresented(*dialog));
+    EXPECT_TRUE(dialog->Loaded()) << "dismissing takes the window, not the form";
+    presenter.Dismiss(*dialog);  // nothing left to dismiss: not recorded
+
+    presenter.Present(*dialog, 0, false);
+    EXPECT_NE(dialog->Hwnd(), hwnd) << "a new window has a new handle";
+
+    const std::vector<HeadlessPresenter::Record> expected{
+        {Kind::Present, "frmComment", 0x100, true, hwnd},
+        {Kind::Present, "frmComment", 0, false, hwnd},
+        {Kind::Dismiss, "frmComment", 0, false, hwnd},
+        {Kind::Present, "frmComment", 0, false, dialog->Hwnd()},
+    };
+    ASSERT_EQ(presenter.Records().size(), expected.size());
+    for (size_t i = 0; i < expected.size(); ++i) {
+        const auto& record = presenter.Records()[i];
+        EXPECT_EQ(record.kind, expected[i].kind) << i;
+        EXPECT_EQ(record.form, expected[i].form) << i;
+        EXPECT_EQ(record.owner, expected[i].owner) << i;
+        EXPECT_EQ(record.modal, expected[i].modal) << i;
+        EXPECT_EQ(record.hwnd, expected[i].hwnd) << i;
+    }
+}
+
+TEST(HeadlessPresenterTest, UnloadingFromItsOwnClickDismissesUnlessAHandlerCancels) {
+    HeadlessPresenter presenter;
+    auto dialog = MakeDialog("frmComment");
+    presenter.Present(*dialog, 0, false);
+    dialog->Show();
+    dialog->Get<CommandButton>("btnOK").Click();
+    EXPECT_FALSE(presenter.IsPresented(*dialog));
+    EXPECT_EQ(dialog->Hwnd(), 0);
+    EXPECT_EQ(presenter.Records().back().kind, Kind::Dismiss);
+
+    auto keeper = MakeDialog("frmKeeper");
+    keeper->onUnload.Connect([](bool& cancel) { cancel = true; });
+    presenter.Present(*keeper, 0, false);
+    keeper->Get<CommandButton>("btnOK").Click();
+    EXPECT_TRUE(presenter.IsPresented(*keeper));
+    EXPECT_TRUE(keeper->Loaded());
+}
+
+TEST(HeadlessPresenterTest, FormsAreNeitherKeptAliveNorConfusedWithOnesMadeLater) {
+    HeadlessPresenter presenter;
+    std::weak_ptr<Form> gone;
+    {
+        auto dialog = MakeDialog("frmFirst");
+        presenter.Present(*dialog, 0, false);
+        gone = dialog;
+    }
+    EXPECT_TRUE(gone.expired());
+    auto other = MakeDialog("frmSecond");
+    auto third = MakeDialog("frmThird");
+    EXPECT_FALSE(presenter.IsPresented(*other));
+    presenter.Present(*other, 0, false);
+    presenter.Present(*third, 0, false);
+    EXPECT_NE(other->Hwnd(), third->Hwnd());
+    presenter.Dismiss(*third);
+    EXPECT_TRUE(presenter.IsPresented(*other));
+}
+
+}  // namespace
+}  // namespace trovane::testing

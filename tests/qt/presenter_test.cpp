@@ -1,0 +1,164 @@
+// The Qt presenter: library forms in windows of their own, released only after the event that
+// unloaded them.
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QWidget>
+
+#include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+#include "qt/qt_platform.h"
+#include "support/qt_application.h"
+
+namespace trovane::qt {
+namespace {
+
+class QtPresenterTest : public ::testing::Test {
+  protected:
+    QtPresenterTest() { trovane::testing::TestApplication(); }
+
+    // A dialog whose OK button unloads it from its own click.
+    static std::shared_ptr<Form> MakeDialog() {
+        auto form = std::make_shared<Form>("frmComment");
+        form->Move(0, 0, 3000, 1500);
+        Form* self = form.get();
+        CommandButton& ok = form->Add<CommandButton>("btnOK");
+        ok.Move(120, 120, 1200, 375);
+        ok.onClick.Connect([self] { self->Unload(); });
+        return form;
+    }
+
+    // Runs what the event loop would: queued calls, then the deletions they asked for.
+    static void LetTheEventLoopRun() {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    QtPlatform platform = MakeQtPlatform();
+    QtPresenter& presenter = *platform.presenter;
+};
+
+TEST_F(QtPresenterTest, AFormUnloadedByItsOwnButtonIsReleasedAfterTheClick) {
+    std::weak_ptr<Form> released;
+    QPointer<FormView> view;
+    {
+        auto dialog = MakeDialog();
+        released = dialog;
+        presenter.Present(*dialog, 0, false);
+        dialog->Show();
+        view = presenter.ViewOf(*dialog);
+        ASSERT_FALSE(view.isNull());
+        EXPECT_TRUE(view->isWindow());
+        EXPECT_TRUE(view->isVisible());
+        EXPECT_EQ(dialog->Hwnd(), platform.windows->HandleOf(view));
+    }
+    auto* button = qobject_cast<QPushButton*>(view->WidgetOf("btnOK"));
+    ASSERT_NE(button, nullptr);
+    QTest::mouseClick(button, Qt::LeftButton);
+    ASSERT_FALSE(released.expired());
+    EXPECT_FALSE(released.lock()->Loaded());
+    LetTheEventLoopRun();
+    EXPECT_TRUE(view.isNull());
+    EXPECT_TRUE(released.expired()) << "the window was the form's last holder";
+}
+
+TEST_F(QtPresenterTest, OwnerAndModalityFollowTheRequest) {
+    QWidget frame;
+    frame.show();
+    const int32_t frameHandle = platform.windows->HandleOf(&frame);
+    auto dialog = MakeDialog();
+
+    presenter.Present(*dialog, frameHandle, true);
+    FormView* view = presenter.ViewOf(*dialog);
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(view->parentWidget(), &frame);
+    EXPECT_TRUE(view->isWindow());
+    EXPECT_EQ(platform.windows->GetWindowLong(dialog->Hwnd(), QtWindowSystem::kOwnerIndex), frameHandle);
+    EXPECT_EQ(view->windowModality(), Qt::WindowModal);
+    EXPECT_FALSE(view->isVisible()) << "the window shows with the form";
+    dialog->Show(true);
+    EXPECT_TRUE(view->isVisible());
+
+    presenter.Present(*dialog, 0, true);
+    EXPECT_EQ(presenter.ViewOf(*dialog), view);
+    EXPECT_EQ(view->parentWidget(), nullptr);
+    EXPECT_EQ(view->windowModality(), Qt::ApplicationModal);
+    EXPECT_TRUE(view->isVisible());
+    presenter.Present(*dialog, 0, false);
+    EXPECT_EQ(view->windowModality(), Qt::NonModal);
+    dialog->Unload();
+    LetTheEventLoopRun();
+}
+
+TEST_F(QtPresenterTest, PresentingAgainBeforeTheReleaseTakesTheSameWindowBack) {
+    auto dialog = MakeDialog();
+    presenter.Present(*dialog, 0, false);
+    QPointer<FormView> view = presenter.ViewOf(*dialog);
+    const int32_t hwnd = dialog->Hwnd();
+
+    presenter.Dismiss(*dialog);
+    EXPECT_EQ(dialog->Hwnd(), 0);
+    EXPECT_EQ(presenter.ViewOf(*dialog), nullptr);
+    EXPECT_FALSE(view->isVisible());
+    presenter.Present(*dialog, 0, false);
+    dialog->Show();
+    LetTheEventLoopRun();
+    ASSERT_FALSE(view.isNull());
+    EXPECT_EQ(presenter.ViewOf(*dialog), view);
+    EXPECT_EQ(dialog->Hwnd(), hwnd);
+    EXPECT_TRUE(view->isVisible());
+
+    // Unloaded and shown again within one event: the window stays.
+    dialog->Unload();
+    dialog->Show();
+    LetTheEventLoopRun();
+    EXPECT_EQ(presenter.ViewOf(*dialog), view);
+    EXPECT_TRUE(view->isVisible());
+}
+
+TEST_F(QtPresenterTest, ACancelledUnloadKeepsTheWindowAndClosingItUnloads) {
+    auto dialog = MakeDialog();
+    presenter.Present(*dialog, 0, false);
+    bool keep = true;
+    dialog->onUnload.Connect([&](bool& cancel) { cancel = keep; });  // after the presenter's handler
+    dialog->Show();
+    QPointer<FormView> view = presenter.ViewOf(*dialog);
+    dialog->Unload();
+    LetTheEventLoopRun();
+    EXPECT_EQ(presenter.ViewOf(*dialog), view);
+    EXPECT_TRUE(view->isVisible());
+
+    keep = false;
+    view->close();  // the operator closes the window
+    EXPECT_FALSE(dialog->Loaded());
+    LetTheEventLoopRun();
+    EXPECT_TRUE(view.isNull());
+    EXPECT_EQ(dialog->Hwnd(), 0);
+}
+
+TEST_F(QtPresenterTest, APlacedFormPutsItsWindowThereAndThePresenterTakesItsWindowsAlong) {
+    auto dialog = MakeDialog();
+    const double twipsX = platform.windows->TwipsPerPixelX();
+    const double twipsY = platform.windows->TwipsPerPixelY();
+    dialog->Move(static_cast<int32_t>(100 * twipsX), static_cast<int32_t>(50 * twipsY), 3000, 1500);
+    presenter.Present(*dialog, 0, false);
+    QPointer<FormView> view = presenter.ViewOf(*dialog);
+    EXPECT_EQ(view->pos(), QPoint(100, 50));
+    dialog->SetLeft(static_cast<int32_t>(200 * twipsX));
+    EXPECT_EQ(view->pos(), QPoint(200, 50));
+
+    platform.services.presenter.reset();
+    platform.presenter.reset();
+    EXPECT_TRUE(view.isNull());
+    EXPECT_EQ(dialog->Hwnd(), 0);
+    EXPECT_TRUE(dialog->Loaded()) << "the form stays as it is";
+}
+
+}  // namespace
+}  // namespace trovane::qt
