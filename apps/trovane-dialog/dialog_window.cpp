@@ -63,7 +63,6 @@ void DialogWindow::Start() {
     layout->addLayout(buttons);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
-    ShowErrorDialogAsWindow();
     pump->Start();
 }
 
@@ -77,13 +76,9 @@ void DialogWindow::AddPanelView(const SitedForm& sited, int32_t titleText) {
     static_cast<QVBoxLayout*>(layout())->addWidget(group);
 }
 
-// The library opens its error dialog by itself (ShowError); its form gets a window here, with the
-// handle the placement rules order above this frame.
-void DialogWindow::ShowErrorDialogAsWindow() {
-    ErrorDlg& dialog = SharedErrorDlg(host.Functions().Platform());
-    auto form = std::static_pointer_cast<Form>(dialog.shared_from_this());
-    errorView = std::make_unique<qt::FormView>(form, Scale());
-    dialog.SetHwnd(platform.windows->HandleOf(errorView.get()));
+qt::FormView* DialogWindow::ErrorDialogView() const {
+    const ErrorDlg* dialog = ExistingErrorDlg();
+    return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
 }
 
 void DialogWindow::Settle() {
@@ -102,7 +97,7 @@ qt::FormView* DialogWindow::ViewOf(const std::string& formName) const {
 
 void DialogWindow::closeEvent(QCloseEvent* event) {
     pump->Stop();
-    if (errorView) errorView->hide();
+    if (ErrorDlg* dialog = ExistingErrorDlg()) dialog->Unload();
     host.Stop();
     event->accept();
 }

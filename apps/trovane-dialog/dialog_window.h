@@ -3,9 +3,9 @@
 //
 // A window titled with the dialog's text and the object, showing each sited panel's form in a
 // captioned group (alarm list above, blocking below) and a Close button. It gives the host its
-// window handle as the frame of every dialog the panels open, shows the library's error dialog as
-// a window of its own, and runs the notification pump on the event loop. Closing the window stops
-// the host (panels deactivated) before the views go.
+// window handle as the frame of every dialog the panels open and runs the notification pump on the
+// event loop; the library's dialogs get their windows from the platform's presenter. Closing the
+// window unloads the error dialog and stops the host (panels deactivated) before the views go.
 
 #include <memory>
 #include <vector>
@@ -30,20 +30,19 @@ class DialogWindow final : public QWidget {
     void Settle();
 
     qt::FormView* ViewOf(const std::string& formName) const;
-    qt::FormView* ErrorDialogView() const { return errorView.get(); }
+    // The window of the library's error dialog while it is presented, else nullptr.
+    qt::FormView* ErrorDialogView() const;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void AddPanelView(const SitedForm& sited, int32_t titleText);
-    void ShowErrorDialogAsWindow();
     qt::TwipsScale Scale() const;
 
     DialogHost& host;
     qt::QtPlatform& platform;
     std::vector<qt::FormView*> panelViews;
-    std::unique_ptr<qt::FormView> errorView;
     std::unique_ptr<qt::NotificationPump> pump;
 };
 

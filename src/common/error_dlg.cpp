@@ -20,6 +20,11 @@ void UnloadAndRelease() {
     if (dialog) dialog->Unload();
 }
 
+PlatformServices WithoutPresenter(PlatformServices platform) {
+    platform.presenter = nullptr;
+    return platform;
+}
+
 }  // namespace
 
 ErrorDlg::ErrorDlg(PlatformServices platform)
@@ -27,7 +32,7 @@ ErrorDlg::ErrorDlg(PlatformServices platform)
       Label1(Add<Label>("Label1")),
       Command1(Add<CommandButton>("Command1")),
       Timer1(Add<Timer>("Timer1")),
-      services(std::move(platform)),
+      services(WithoutPresenter(std::move(platform))),
       functions(std::make_unique<CommonFunctions>(services)) {
     Move(0, 0, 4800, 2100);
     Label1.Move(120, 120, 4560, 1200);

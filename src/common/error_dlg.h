@@ -15,8 +15,11 @@
 // replacement list that the latest caller does not have.
 //
 // There is one shared instance for the whole library (SharedErrorDlg), created on first use and
-// reused by every ShowError; MakeCleanup unloads and releases it. Unloading the dialog (OK or the
-// countdown) only hides it: the next ShowError loads it again.
+// reused by every ShowError; MakeCleanup unloads and releases it. ShowError gives the dialog its
+// window through the caller's presenter; unloading the dialog (OK or the countdown) hides it and
+// lets the presenter take the window away, and the next ShowError presents and loads it again. The
+// dialog keeps no presenter of its own, so that a presented dialog and its window never hold each
+// other.
 
 #include <cstdint>
 #include <memory>

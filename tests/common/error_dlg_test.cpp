@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "common/error_dlg.h"
 #include "common/mb_icon.h"
+#include "platform/headless_presenter.h"
 #include "services_fixture.h"
 
 namespace trovane::testing {
@@ -81,17 +85,61 @@ TEST_F(ErrorDlgTest, OkUnloadsAndTheNextErrorLoadsTheSameDialogAgain) {
     EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
-TEST_F(ErrorDlgTest, ShowErrorMakesNoWindowTopmostAndShowError2OwnsTheDialogByTheParent) {
+using Kind = HeadlessPresenter::Record::Kind;
+
+TEST_F(ErrorDlgTest, ShowErrorPresentsTheDialogWithoutOwnerAndItsUnloadDismissesIt) {
     functions->ShowError("x");
+    ErrorDlg& dialog = *ExistingErrorDlg();
+    ASSERT_EQ(presenter->Records().size(), 1u);
+    const HeadlessPresenter::Record& shown = presenter->Records()[0];
+    EXPECT_EQ(shown.kind, Kind::Present);
+    EXPECT_EQ(shown.form, "ErrorDlg");
+    EXPECT_EQ(shown.owner, 0);
+    EXPECT_FALSE(shown.modal);
+    EXPECT_EQ(dialog.Hwnd(), shown.hwnd);
+    EXPECT_TRUE(dialog.Visible());
+    // The topmost request names no window, whatever the dialog's own handle is.
     ASSERT_EQ(windows->PositionRequests().size(), 1u);
     EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
     EXPECT_EQ(windows->PositionRequests()[0].flags, 3u);
-    SharedErrorDlg(platform).SetHwnd(0x300);
-    windows->SetWindowLong(0x100, -20, 8);
+
+    dialog.Command1.Click();
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
+    EXPECT_EQ(dialog.Hwnd(), 0);
+    functions->ShowError("y");
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Present);
+    EXPECT_NE(dialog.Hwnd(), 0);
+    functions->MakeCleanup();
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
+}
+
+// ShowError2: presented (and so loaded, with its handle), then ordered, then shown.
+TEST_F(ErrorDlgTest, ShowError2OrdersThePresentedDialogBeforeShowingIt) {
+    ErrorDlg& dialog = SharedErrorDlg(platform);
+    std::vector<std::string> steps;
+    dialog.onLoad.Connect([&] {
+        steps.push_back("load with handle " + std::to_string(dialog.Hwnd() != 0) + ", " +
+                        std::to_string(windows->PositionRequests().size()) + " requests");
+    });
+    dialog.onChanged.Connect([&](ControlProperty property) {
+        if (property == ControlProperty::Visible && dialog.Visible())
+            steps.push_back("show after " + std::to_string(windows->PositionRequests().size()) + " requests");
+    });
+    windows->SetWindowLong(0x100, -20, 8);  // a topmost frame
     functions->ShowError2("x", 0x100);
-    EXPECT_EQ(windows->OwnerOf(0x300), 0x100);
-    EXPECT_TRUE(windows->IsTopmost(0x300));
-    EXPECT_TRUE(ExistingErrorDlg()->Visible());
+    EXPECT_EQ(steps, (std::vector<std::string>{"load with handle 1, 0 requests", "show after 2 requests"}));
+    EXPECT_EQ(presenter->Records().back().owner, 0x100);
+    EXPECT_EQ(windows->OwnerOf(dialog.Hwnd()), 0x100);
+    EXPECT_TRUE(windows->IsTopmost(dialog.Hwnd()));
+}
+
+TEST_F(ErrorDlgTest, WithoutTheOwnerFlagShowError2LeavesTheDialogUnownedButTopmost) {
+    functions->SetWindowOwner(false);
+    functions->ShowError2("x", 0x100);
+    const int32_t hwnd = ExistingErrorDlg()->Hwnd();
+    EXPECT_EQ(presenter->Records().back().owner, 0);
+    EXPECT_EQ(windows->OwnerOf(hwnd), 0);
+    EXPECT_TRUE(windows->IsTopmost(hwnd));
 }
 
 TEST(MBIconTest, DefaultsToTheInformationIconAndSavesOnlyChanges) {

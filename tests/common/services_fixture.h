@@ -1,7 +1,7 @@
 #pragma once
-// The platform the common-services tests run on: a headless window system, a clock that stands
-// still, files in memory, a colour tool that records its calls, and a connection whose PATH answer
-// the test chooses. The shared colour host and error dialog are released around every test.
+// The platform the common-services tests run on: a headless window system and presenter, a clock
+// that stands still, files in memory, a colour tool that records its calls, and a connection whose
+// PATH answer the test chooses. The shared colour host and error dialog are released around every test.
 
 #include <gtest/gtest.h>
 
@@ -13,6 +13,7 @@
 #include "common/common_functions.h"
 #include "common/cst.h"
 #include "common/shared_dialog.h"
+#include "platform/headless_presenter.h"
 #include "platform/headless_window_system.h"
 #include "support/fake_connection.h"
 #include "support/fake_message_box.h"
@@ -74,13 +75,15 @@ class ServicesTest : public ::testing::Test {
     std::shared_ptr<HeadlessWindowSystem> windows = std::make_shared<HeadlessWindowSystem>();
     std::shared_ptr<RecordingColorTool> colorTool = std::make_shared<RecordingColorTool>();
     std::shared_ptr<FakeConnection> connection = std::make_shared<FakeConnection>();
+    std::shared_ptr<HeadlessPresenter> presenter = std::make_shared<HeadlessPresenter>();
     PlatformServices platform{.messageBox = messages,
                               .clock = clock,
                               .locale = std::make_shared<DefaultLocale>(),
                               .files = files,
                               .windows = windows,
                               .resources = nullptr,
-                              .colorTool = colorTool};
+                              .colorTool = colorTool,
+                              .presenter = presenter};
     std::unique_ptr<CommonFunctions> functions;
 };
 
