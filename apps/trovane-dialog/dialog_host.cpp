@@ -30,10 +30,13 @@ DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platform
     auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
     application = server->Database().App().number;
     connection = std::make_shared<sim::SimulatedConnection>(server);
-    functions = std::make_unique<CommonFunctions>(platform);
-    container =
-        std::make_shared<HostContainer>(*functions, Variant(ObjectRef(connection)), application,
-                                        ObjectIdentity{options.objectName, options.index}, options.rights);
+    functions = std::make_shared<CommonFunctions>(platform);
+    container = std::make_shared<StandardContainer>(
+        "frmControlDialog", functions,
+        ContainerSettings{Variant(ObjectRef(connection)), application, options.userName, options.rights});
+    actions = std::make_shared<DemoHostActions>(panels, *container,
+                                                ObjectIdentity{options.objectName, options.index});
+    AnswerHostActions(*container, actions);
 }
 
 DialogHost::~DialogHost() {
@@ -44,24 +47,15 @@ void DialogHost::Start(int32_t frameHandle) {
     if (started) return;
     started = true;
     functions->SetStartInfo(StartInformation(frameHandle));
-    SitePanels();
-}
-
-// The panels the dialog shows, in siting order: the alarm list first, because its selection
-// drives the blocking panel. One more panel is one more line.
-void DialogHost::SitePanels() {
-    const SiteContext context{*container, Variant(ObjectRef(container)), platform,
-                              Variant(ObjectRef(connection)), application};
-    panels.push_back(SiteAlarmPanel(context));
-    panels.push_back(SiteBlockingPanel(context));
+    panels.Start(ControlDialogSites(),
+                 SiteContext{*container, platform, Variant(ObjectRef(connection)), application,
+                             ObjectIdentity{options.objectName, options.index}});
 }
 
 void DialogHost::Stop() {
     if (!started) return;
     started = false;
-    for (auto panel = panels.rbegin(); panel != panels.rend(); ++panel)
-        if (panel->stop) panel->stop();
-    container->UnsiteAll();
+    panels.Stop();
 }
 
 int32_t DialogHost::Pump() {

@@ -1,19 +1,22 @@
 #pragma once
 // DialogHost: the control dialog without its windows.
 //
-// It owns the in-process server and its connection, the one CommonFunctions object, the host
-// container and the sited panels, and runs the dialog's life: Start gives CommonFunctions the start
-// information and sites the panels (first server reads, subscriptions); Pump delivers the server's
-// queued change notifications; Stop deactivates the panels in reverse order. The front end adds
-// the windows, and calls Pump from its event loop.
+// It owns the in-process server and its connection, the one CommonFunctions object, the container
+// (the library's standard members, the dialog's sites and its host actions) and the sited panels,
+// and runs the dialog's life: Start gives CommonFunctions the start information and starts the
+// table of sites in order (first server reads, subscriptions); Pump delivers the server's queued
+// change notifications; Stop stops the panels in reverse order. The front end adds the windows,
+// and calls Pump from its event loop.
 
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "common/common_functions.h"
+#include "common/panel_sites.h"
+#include "common/standard_container.h"
+#include "demo_host_actions.h"
 #include "dialog_options.h"
-#include "host_container.h"
 #include "panel_sites.h"
 #include "sim/simulated_connection.h"
 
@@ -34,23 +37,24 @@ class DialogHost {
     int32_t Pump();
 
     CommonFunctions& Functions() { return *functions; }
-    HostContainer& Container() { return *container; }
+    StandardContainer& Container() { return *container; }
+    DemoHostActions& Actions() { return *actions; }
     sim::SimulatedConnection& Connection() { return *connection; }
     sim::SimulatedServer& Server() { return connection->Server(); }
-    const std::vector<SitedForm>& Panels() const { return panels; }
+    const SitedPanels& Panels() const { return panels; }
     int16_t Application() const { return application; }
     std::string ObjectCaption() const;
 
   private:
     Variant StartInformation(int32_t frameHandle);
-    void SitePanels();
 
     DialogOptions options;
     PlatformServices platform;
     std::shared_ptr<sim::SimulatedConnection> connection;
-    std::unique_ptr<CommonFunctions> functions;
-    std::shared_ptr<HostContainer> container;
-    std::vector<SitedForm> panels;
+    std::shared_ptr<CommonFunctions> functions;
+    std::shared_ptr<StandardContainer> container;
+    std::shared_ptr<DemoHostActions> actions;
+    SitedPanels panels;
     int16_t application = 1;
     bool started = false;
 };

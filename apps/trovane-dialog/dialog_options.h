@@ -8,6 +8,7 @@
 //   --rights LIST             which rights the operator has (user_rights.h; all by default)
 //   --trace                   the library's trace to standard error
 //   --screenshot FILE.png     render the dialog off-screen, write the picture and exit
+//   --page NAME               the page shown first (alarms, ...), for example in a screenshot
 //   --help
 
 #include <cstdint>
@@ -28,6 +29,7 @@ struct DialogOptions {
     UserRights rights;
     bool trace = false;
     std::optional<std::string> screenshotFile;
+    std::optional<std::string> page;
     bool help = false;
     // Not from the command line: where the in-process server is installed (its icon directories);
     // empty keeps the scenario's own root.

@@ -7,9 +7,11 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include "common/error_dlg.h"
+#include "panel_sites.h"
 #include "qt/text.h"
 
 namespace trovane::dialog {
@@ -17,8 +19,6 @@ namespace trovane::dialog {
 namespace {
 // Texts of the dialog's own captions, from the common text table.
 constexpr int32_t kControlDialogText = 158;
-constexpr int32_t kAlarmListText = 237;
-constexpr int32_t kBlockingText = 196;
 constexpr int32_t kCloseText = 107;
 }  // namespace
 
@@ -30,6 +30,7 @@ DialogWindow::DialogWindow(DialogHost& hostIn, qt::QtPlatform& platformIn)
 
 DialogWindow::~DialogWindow() {
     pump->Stop();
+    host.Actions().SetPositionSource(nullptr);
     host.Stop();
 }
 
@@ -37,7 +38,16 @@ qt::TwipsScale DialogWindow::Scale() const {
     return qt::TwipsScale{platform.windows->TwipsPerPixelX(), platform.windows->TwipsPerPixelY()};
 }
 
+WindowPosition DialogWindow::PositionInTwips() const {
+    const qt::TwipsScale scale = Scale();
+    const QRect frame = frameGeometry();
+    auto twips = [](int pixels, double factor) { return static_cast<int32_t>(pixels * factor); };
+    return {twips(frame.x(), scale.x), twips(frame.y(), scale.y), twips(frame.width(), scale.x),
+            twips(frame.height(), scale.y)};
+}
+
 void DialogWindow::Start() {
+    host.Actions().SetPositionSource([this] { return PositionInTwips(); });
     host.Start(platform.windows->HandleOf(this));
     CommonFunctions& functions = host.Functions();
     setWindowTitle(qt::ToQString(functions.GetNlsString(kControlDialogText) + " - " + host.ObjectCaption()));
@@ -50,9 +60,17 @@ void DialogWindow::Start() {
     heading->setFont(bold);
     layout->addWidget(heading);
 
-    const int32_t titles[] = {kAlarmListText, kBlockingText};
-    for (size_t i = 0; i < host.Panels().size(); ++i)
-        AddPanelView(host.Panels()[i], i < std::size(titles) ? titles[i] : 0);
+    auto* top = new QVBoxLayout;
+    layout->addLayout(top);
+    pages = new QTabWidget(this);
+    pages->setObjectName("tabPages");
+    layout->addWidget(pages);
+    for (const SitedPanels::Sited& sited : host.Panels().Panels()) {
+        if (sited.site.page == kTopArea)
+            AddPanelView(sited, *top);
+        else
+            AddPanelView(sited, *static_cast<QVBoxLayout*>(AddPageArea(sited.site.page)->layout()));
+    }
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -66,14 +84,58 @@ void DialogWindow::Start() {
     pump->Start();
 }
 
-void DialogWindow::AddPanelView(const SitedForm& sited, int32_t titleText) {
-    auto* group =
-        new QGroupBox(titleText ? qt::ToQString(host.Functions().GetNlsString(titleText)) : QString(), this);
-    auto* inside = new QVBoxLayout(group);
-    auto* view = new qt::FormView(sited.form, Scale(), group);
-    inside->addWidget(view);
+// The page's area, made with its tab on first use; tabs keep the order of DialogPages.
+QWidget* DialogWindow::AddPageArea(const std::string& pageName) {
+    for (size_t i = 0; i < pageNames.size(); ++i)
+        if (pageNames[i] == pageName) return pages->widget(static_cast<int>(i));
+    const DialogPage* page = FindDialogPage(pageName);
+    const std::string title = page ? host.Functions().GetNlsString(page->titleText) : pageName;
+    auto* area = new QWidget(pages);
+    area->setObjectName(qt::ToQString("page_" + pageName));
+    new QVBoxLayout(area);
+    size_t position = 0;
+    const auto& order = DialogPages();
+    auto rank = [&](const std::string& name) {
+        for (size_t i = 0; i < order.size(); ++i)
+            if (order[i].name == name) return i;
+        return order.size();
+    };
+    while (position < pageNames.size() && rank(pageNames[position]) <= rank(pageName)) ++position;
+    pages->insertTab(static_cast<int>(position), area, qt::ToQString(title));
+    pageNames.insert(pageNames.begin() + static_cast<std::ptrdiff_t>(position), pageName);
+    return area;
+}
+
+// The view is made inside its frame (or area) from the start: a view made without a parent would
+// be a window of its own, which follows the form's visibility instead of its host's.
+void DialogWindow::AddPanelView(const SitedPanels::Sited& sited, QVBoxLayout& area) {
+    QWidget* parent = area.parentWidget() ? area.parentWidget() : this;
+    QGroupBox* frame = nullptr;
+    if (sited.site.titleText != 0) {
+        frame = new QGroupBox(qt::ToQString(host.Functions().GetNlsString(sited.site.titleText)), parent);
+        new QVBoxLayout(frame);
+    }
+    auto* view = new qt::FormView(sited.panel, Scale(), frame ? static_cast<QWidget*>(frame) : parent);
     panelViews.push_back(view);
-    static_cast<QVBoxLayout*>(layout())->addWidget(group);
+    if (frame) {
+        frame->layout()->addWidget(view);
+        area.addWidget(frame);
+    } else {
+        area.addWidget(view);
+    }
+}
+
+bool DialogWindow::ShowPage(const std::string& pageName) {
+    for (size_t i = 0; i < pageNames.size(); ++i) {
+        if (pageNames[i] != pageName) continue;
+        pages->setCurrentIndex(static_cast<int>(i));
+        return true;
+    }
+    return false;
+}
+
+std::vector<std::string> DialogWindow::PageNames() const {
+    return pageNames;
 }
 
 qt::FormView* DialogWindow::ErrorDialogView() const {

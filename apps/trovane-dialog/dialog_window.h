@@ -1,13 +1,17 @@
 #pragma once
 // DialogWindow: the control dialog on screen.
 //
-// A window titled with the dialog's text and the object, showing each sited panel's form in a
-// captioned group (alarm list above, blocking below) and a Close button. It gives the host its
-// window handle as the frame of every dialog the panels open and runs the notification pump on the
+// A window titled with the dialog's text and the object: the object's caption, the area above the
+// pages (where the indication bar goes), a tab per page that holds a panel (the alarm list with the
+// blocking panel first; the later pages appear with their panels), and a bottom row with the Close
+// button. Each sited panel's form is shown on its page in table order, in a captioned frame when
+// its site has a title. The window gives the host its handle as the frame of every dialog the
+// panels open, its rectangle as the host's window position, and runs the notification pump on the
 // event loop; the library's dialogs get their windows from the platform's presenter. Closing the
 // window unloads the error dialog and stops the host (panels deactivated) before the views go.
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <QWidget>
@@ -16,6 +20,9 @@
 #include "qt/form_view.h"
 #include "qt/notification_pump.h"
 #include "qt/qt_platform.h"
+
+class QTabWidget;
+class QVBoxLayout;
 
 namespace trovane::dialog {
 
@@ -29,6 +36,11 @@ class DialogWindow final : public QWidget {
     // Delivers what the server has queued and lets Qt settle, until nothing is left (bounded).
     void Settle();
 
+    // Brings a page to the front; false when the dialog has no such page (or it holds no panel).
+    bool ShowPage(const std::string& pageName);
+    // The names of the pages shown, in tab order.
+    std::vector<std::string> PageNames() const;
+
     qt::FormView* ViewOf(const std::string& formName) const;
     // The window of the library's error dialog while it is presented, else nullptr.
     qt::FormView* ErrorDialogView() const;
@@ -37,11 +49,15 @@ class DialogWindow final : public QWidget {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    void AddPanelView(const SitedForm& sited, int32_t titleText);
+    QWidget* AddPageArea(const std::string& pageName);
+    void AddPanelView(const SitedPanels::Sited& sited, QVBoxLayout& area);
+    WindowPosition PositionInTwips() const;
     qt::TwipsScale Scale() const;
 
     DialogHost& host;
     qt::QtPlatform& platform;
+    QTabWidget* pages = nullptr;
+    std::vector<std::string> pageNames;
     std::vector<qt::FormView*> panelViews;
     std::unique_ptr<qt::NotificationPump> pump;
 };

@@ -34,6 +34,10 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
     dialog::DialogHost host(options, platform.services);
     dialog::DialogWindow window(host, platform);
     window.Start();
+    if (options.page && !window.ShowPage(*options.page)) {
+        std::cerr << "trovane-dialog: the page " << *options.page << " holds no panel\n";
+        return 2;
+    }
     window.show();
     window.Settle();
 

@@ -5,30 +5,57 @@
 
 namespace trovane::dialog {
 
-// The alarm list drives the blocking panel: its selected row becomes the blocked signal.
-SitedForm SiteAlarmPanel(const SiteContext& context) {
-    auto alarms = std::make_shared<Alarms>(context.platform);
-    alarms->SetParent(context.containerRef);
-    alarms->CanSelectSingleBlocking = true;
-    context.container.Site(HostContainer::kAlarmSite, Variant(ObjectRef(alarms)),
-                           [alarms] { alarms->RefreshAlarms(); });
-    alarms->Activate(context.application, context.connection);
-    return {alarms, [alarms] {
-                alarms->Deactivate();
-                alarms->SetParent(Variant::Nothing());
-            }};
+namespace {
+constexpr int32_t kAlarmListText = 237;
+constexpr int32_t kBlockingText = 196;
+
+PanelSite Titled(PanelSite site, int32_t titleText) {
+    site.titleText = titleText;
+    return site;
+}
+}  // namespace
+
+const std::vector<DialogPage>& DialogPages() {
+    static const std::vector<DialogPage> pages = {
+        {"alarms", kAlarmListText},
+    };
+    return pages;
 }
 
-SitedForm SiteBlockingPanel(const SiteContext& context) {
-    auto blocking = std::make_shared<Blocking>(context.platform);
-    blocking->SetParent(context.containerRef);
-    blocking->logicalName = context.container.Object().logicalName;
-    blocking->baseIndex = context.container.Object().index;
-    context.container.Site(HostContainer::kBlockingSite, Variant(ObjectRef(blocking)),
-                           [blocking] { blocking->RefreshStates(); });
-    blocking->EnableSingleBlocking();
-    blocking->Init();
-    return {blocking, [blocking] { blocking->SetParent(Variant::Nothing()); }};
+const DialogPage* FindDialogPage(std::string_view name) {
+    for (const DialogPage& page : DialogPages())
+        if (page.name == name) return &page;
+    return nullptr;
+}
+
+std::string DialogPageNames() {
+    std::string names;
+    for (const DialogPage& page : DialogPages()) names += (names.empty() ? "" : ", ") + page.name;
+    return names;
+}
+
+// The alarm list comes first, above the blocking panel on its page; its selection drives the
+// blocking panel, through the container, from the first notification on.
+std::vector<PanelSite> ControlDialogSites() {
+    return {
+        SiteOf<Alarms>(
+            kAlarmSite, "alarms",
+            [](Alarms& alarms, const SiteContext& context) {
+                alarms.CanSelectSingleBlocking = true;
+                alarms.Activate(context.application, context.connection);
+            },
+            [](Alarms& alarms) { alarms.Deactivate(); }, [](Alarms& alarms) { alarms.RefreshAlarms(); }),
+        Titled(SiteOf<Blocking>(
+                   kBlockingSite, "alarms",
+                   [](Blocking& blocking, const SiteContext& context) {
+                       blocking.logicalName = context.object.logicalName;
+                       blocking.baseIndex = context.object.index;
+                       blocking.EnableSingleBlocking();
+                       blocking.Init();
+                   },
+                   nullptr, [](Blocking& blocking) { blocking.RefreshStates(); }),
+               kBlockingText),
+    };
 }
 
 }  // namespace trovane::dialog

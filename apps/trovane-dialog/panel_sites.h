@@ -1,34 +1,34 @@
 #pragma once
-// The panels the control dialog sites, one function each.
+// The panels of the control dialog, as a table of sites (common/panel_sites.h).
 //
-// Siting a panel means: create it with the dialog's platform services, make the container its
-// parent, set its identity and options, site it in the container under its name, and start it
-// (Init, or Activate for a panel that subscribes). A new panel is one more function here and one
-// more line in DialogHost::SitePanels. Each returns the panel as a form, for the front end to show,
-// with the operation that stops it again.
+// Each row is one panel: its site name, the page that shows it, how it starts and stops. The host
+// starts the rows in this order and stops them in reverse. Adding a panel to the dialog is one row
+// here and one factory (the panel's constructor).
 
-#include <functional>
-#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
-#include "host_container.h"
-#include "platform/controls/form.h"
+#include "common/panel_sites.h"
 
 namespace trovane::dialog {
 
-struct SitedForm {
-    std::shared_ptr<Form> form;
-    std::function<void()> stop;  // Deactivate and let go of the container
-};
+// Site names the panels and the host ask for.
+inline constexpr const char* kAlarmSite = "Alarms1";
+inline constexpr const char* kBlockingSite = "Blocking1";
 
-struct SiteContext {
-    HostContainer& container;
-    Variant containerRef;  // the container as the panels hold it
-    const PlatformServices& platform;
-    Variant connection;
-    int16_t application;
+// Pages of the dialog, in the order of their tabs. A page appears only when it holds a panel.
+struct DialogPage {
+    std::string name;   // as --page names it
+    int32_t titleText;  // text identifier of the tab's title
 };
+const std::vector<DialogPage>& DialogPages();
+const DialogPage* FindDialogPage(std::string_view name);
+// "alarms, ...", for messages.
+std::string DialogPageNames();
+// The area above the pages (the indication bar's place).
+inline constexpr const char* kTopArea = "";
 
-SitedForm SiteAlarmPanel(const SiteContext& context);
-SitedForm SiteBlockingPanel(const SiteContext& context);
+std::vector<PanelSite> ControlDialogSites();
 
 }  // namespace trovane::dialog

@@ -1,24 +1,13 @@
 #pragma once
-// What the operator of the dialog may do, as the container's rights queries answer it.
-//
-// A real workstation asks its user administration; the demo host takes the rights from the
-// command line: "all" (the default), "none", or a comma-separated list of the names below.
+// The operator's rights from the demo host's command line: "all" (the default), "none", or a
+// comma-separated list of the names below.
 
 #include <optional>
 #include <string>
 
+#include "common/user_rights.h"
+
 namespace trovane::dialog {
-
-struct UserRights {
-    bool authorized = true;            // IsUserAuthorized
-    bool engineer = true;              // IsUserEngineer
-    bool alarmHandling = true;         // IsAlarmHandlingAllowed
-    bool blockingHandling = true;      // IsBlockingHandlingAllowed
-    bool substitutionHandling = true;  // IsSubstitutionHandlingAllowed
-
-    static UserRights All() { return UserRights{}; }
-    static UserRights None() { return UserRights{false, false, false, false, false}; }
-};
 
 // The names a rights list may hold.
 inline constexpr const char* kRightNames = "authorized, engineer, alarms, blocking, substitution";

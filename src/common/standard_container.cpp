@@ -23,6 +23,21 @@ Variant StandardContainer::RunVexlCmdWithStatus(const std::string& command, int3
     return functions->RunVexlCmdGlobalWithStatus(settings.connection, command, settings.application, status);
 }
 
+void StandardContainer::Site(const std::string& siteName, ObjectRef panel) {
+    sites[siteName] = std::move(panel);
+    Property(siteName, [this, siteName] { return SitedPanel(siteName); });
+}
+
+void StandardContainer::Unsite(const std::string& siteName) {
+    const auto found = sites.find(siteName);
+    if (found != sites.end()) found->second.reset();
+}
+
+Variant StandardContainer::SitedPanel(std::string_view siteName) const {
+    const auto found = sites.find(siteName);
+    return found == sites.end() ? Variant::Nothing() : Variant(found->second);
+}
+
 // The status is by reference: it is read from the caller's argument and written back, so a command
 // that is never sent leaves it exactly as the caller preset it.
 void StandardContainer::RegisterCommandMembers() {

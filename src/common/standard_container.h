@@ -6,11 +6,14 @@
 // RunVexlCmdGlobal / RunVexlCmdGlobalWithStatus (numbered and traced; the caller's status left as
 // it was when nothing was sent), texts, the error dialog, the character set, window order, the
 // trace, the language ("getLang"), the operator's name ("sUserName") and the five rights queries,
-// answered from a UserRights value. A host derives from this class (or wraps it) and registers only
-// what is its own: its panel sites and the requests the panels leave to it. Tests use the same
-// class, so host and tests cannot disagree on these members.
+// answered from a UserRights value. It also answers each sited panel under its site name
+// ("Alarms1"): a site without a panel answers Nothing, which panels test for ("when the container
+// has one"). A host derives from this class (or wraps it) and registers only what is its own, above
+// all the requests the panels leave to it (host_actions.h). Tests use the same class, so host and
+// tests cannot disagree on these members.
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 
@@ -39,6 +42,12 @@ class StandardContainer : public DispatchObject {
     Variant RunVexlCmd(const std::string& command);
     Variant RunVexlCmdWithStatus(const std::string& command, int32_t& status);
 
+    // Makes `panel` reachable as member `siteName`; Unsite makes the site answer Nothing again.
+    void Site(const std::string& siteName, ObjectRef panel);
+    void Unsite(const std::string& siteName);
+    // The panel at a site, or Nothing.
+    Variant SitedPanel(std::string_view siteName) const;
+
   private:
     void RegisterCommandMembers();
     void RegisterServiceMembers();
@@ -46,6 +55,7 @@ class StandardContainer : public DispatchObject {
 
     std::shared_ptr<CommonFunctions> functions;
     ContainerSettings settings;
+    std::map<std::string, ObjectRef, CaseInsensitiveLess> sites;
 };
 
 }  // namespace trovane

@@ -48,6 +48,8 @@ class SimulatedConnection final : public Connection {
     // Delivers the queued notifications; returns the number of items delivered.
     int32_t Pump();
     size_t PendingCount() const { return pending_.size(); }
+    // The subscriptions not yet removed.
+    size_t SubscriptionCount() const { return subscriptions_.size(); }
 
     // Adds "Pump" to the connection's members by name.
     Variant Invoke(std::string_view member, CallKind kind, std::span<Variant> args) override;

@@ -133,7 +133,9 @@ TEST(TracedOperationTest, ExitLinesAndWhatHappensToTheFailure) {
             raised = true;
         }
         EXPECT_EQ(raised, c.raises) << c.name;
-        if (!raised) EXPECT_EQ(result, c.result) << c.name;
+        if (!raised) {
+            EXPECT_EQ(result, c.result) << c.name;
+        }
         EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> X.Op", c.exitLine})) << c.name;
     }
     TraceCapture trace;

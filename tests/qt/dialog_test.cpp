@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -52,8 +53,8 @@ class DialogTest : public ::testing::Test {
     QPushButton* Button(const char* form, const char* name) const {
         return qobject_cast<QPushButton*>(Widget(form, name));
     }
-    Alarms& AlarmPanel() const { return static_cast<Alarms&>(*host->Panels().at(0).form); }
-    Blocking& BlockingPanel() const { return static_cast<Blocking&>(*host->Panels().at(1).form); }
+    Alarms& AlarmPanel() const { return *host->Panels().FindAs<Alarms>(kAlarmSite); }
+    Blocking& BlockingPanel() const { return *host->Panels().FindAs<Blocking>(kBlockingSite); }
 
     void ClickRow(int row) {
         QTreeWidget* list = AlarmList();
@@ -83,7 +84,7 @@ class DialogTest : public ::testing::Test {
     }
     // The alarm state keyword of one signal of ABC.
     std::string ServerAlarmState(int32_t index) {
-        const Variant list = Ask(host->Container().AlarmListCommand());
+        const Variant list = Ask(host->Actions().AlarmListCommand());
         const Variant combo = host->Functions().GetListItem(list, "COMBO_LIST");
         for (const Variant& element : combo.AsArray().Elements()) {
             const VariantArray& fields = element.AsArray();
@@ -209,6 +210,25 @@ TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
     EXPECT_EQ(text->text(), "Command failed");
     Click(qobject_cast<QPushButton*>(error->WidgetOf("Command1")));
     EXPECT_FALSE(error->isVisible());
+}
+
+TEST_F(DialogTest, PanelsStandOnTheirPagesAndTheDialogFitsASmallScreen) {
+    Open();
+    EXPECT_EQ(window->PageNames(), std::vector<std::string>{"alarms"});
+    EXPECT_TRUE(window->ShowPage("alarms"));
+    EXPECT_FALSE(window->ShowPage("tagout")) << "a page without panels is not shown";
+    auto* pages = window->findChild<QTabWidget*>("tabPages");
+    ASSERT_NE(pages, nullptr);
+    EXPECT_EQ(pages->count(), 1);
+    EXPECT_EQ(pages->tabText(0), "Alarm list");
+    EXPECT_TRUE(pages->widget(0)->isAncestorOf(AlarmList()));
+    EXPECT_TRUE(pages->widget(0)->isAncestorOf(BlockingBox("Check1")));
+    EXPECT_LE(window->frameGeometry().width(), 1280);
+    EXPECT_LE(window->frameGeometry().height(), 800);
+    // The host's window position, as panels read it to place their dialogs, is the window's, in twips.
+    const Variant container(ObjectRef(host->Container().shared_from_this()));
+    EXPECT_EQ(ToInt32(GetProperty(container, "Width")),
+              static_cast<int32_t>(window->frameGeometry().width() * platform.windows->TwipsPerPixelX()));
 }
 
 TEST_F(DialogTest, ScreenshotIsAPictureOfTheWholeDialog) {
