@@ -32,11 +32,13 @@ std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answe
     return container;
 }
 
-void DriveAlarms(const Variant& container) {
+void DriveAlarms(const Variant& container, const Variant& answer) {
     auto alarms = std::make_shared<trovane::Alarms>();
     alarms->SetParent(container);
     alarms->CanSelectSingleBlocking = true;
     try {
+        // A notification batch made of the answer: whatever its arrays hold, it is walked safely.
+        alarms->OnDataChange(0, 1, 3, answer, answer, answer, answer);
         alarms->RefreshAlarms();
         for (int32_t row = 1; row <= alarms->ListView1.ItemCount() && row <= 50; ++row) {
             alarms->ListView1.ClickItem(row);
@@ -72,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const Variant answer =
         interpreter.Execute(std::string(reinterpret_cast<const char*>(data), size), status);
     const auto container = ContainerAnswering(answer);
-    DriveAlarms(Variant(trovane::ObjectRef(container)));
+    DriveAlarms(Variant(trovane::ObjectRef(container)), answer);
     DriveBlocking(Variant(trovane::ObjectRef(container)));
     return 0;
 }
