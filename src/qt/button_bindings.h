@@ -2,6 +2,11 @@
 // Bindings of the controls the operator presses: command button, check box (grey shows as partly
 // checked), option button. Groups of option buttons are the model's business (same container), so
 // the radio buttons are not exclusive on their own: each shows exactly the value its model holds.
+//
+// The model, not Qt, orders the events of a mouse click: the binding keeps the mouse from the
+// button, and when the button is released over the control it has the model raise the whole
+// classic sequence (ClickWithMouse); released elsewhere, only MouseDown and MouseUp. The keyboard's
+// click (space bar, access key) reaches the model as a plain Click.
 
 #include <QAbstractButton>
 
@@ -15,8 +20,15 @@ class PressableBinding : public ControlBinding {
 
   protected:
     void ShowCaption() override;
-    // Connects the button's click to the model's Click.
+    // Connects the button's keyboard click to the model's Click.
     void ForwardClicks(QAbstractButton* button);
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void Press(QEvent* event);
+    void Release(QEvent* event);
+
+    Qt::MouseButton pressed = Qt::NoButton;
 };
 
 class CommandButtonBinding final : public PressableBinding {

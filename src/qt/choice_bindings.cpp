@@ -26,7 +26,7 @@ QWidget* ComboBoxBinding::CreateView(QWidget* parent) {
                      [this](int index) { Input([&] { Combo(Model()).SetListIndex(index); }); });
     if (QLineEdit* edit = combo->lineEdit()) {
         QObject::connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-            Input([&] { Combo(Model()).SetText(ToModelText(text)); });
+            Input([&] { Combo(Model()).EditText(ToModelText(text)); });
         });
     }
     return combo;
@@ -59,6 +59,10 @@ void ComboBoxBinding::MirrorAll() {
 
 void ComboBoxBinding::AfterInput() {
     ShowChoice();
+}
+
+bool ComboBoxBinding::WidgetTypes() const {
+    return Combo(Model()).ListStyle() != ComboBox::Style::DropDownList;
 }
 
 void ComboBoxBinding::ShowItems() {

@@ -1,7 +1,9 @@
 #pragma once
 // Bindings of the controls that choose one entry of a list: the combo box and the tab strip.
 // The operator's choice goes to the model (ListIndex, ClickTab), which raises the events; the
-// widget then shows the model's choice.
+// widget then shows the model's choice. Every edit of a combo box's free text (typing, paste, undo)
+// goes to the model as the operator's edit, which raises Change; the field then shows the model's
+// text, and a character that a KeyPress handler discarded never reaches it.
 
 #include "qt/control_binding.h"
 
@@ -16,6 +18,7 @@ class ComboBoxBinding final : public ControlBinding {
     void MirrorOwn(ControlProperty property) override;
     void MirrorAll() override;
     void AfterInput() override;
+    bool WidgetTypes() const override;
 
   private:
     void ShowItems();

@@ -13,17 +13,17 @@ namespace trovane::qt {
 
 ControlBinding::ControlBinding(std::shared_ptr<Control> controlIn, TwipsScale scaleIn)
     : control(std::move(controlIn)), scale(scaleIn) {
-    std::weak_ptr<bool> token = alive;
-    control->onChanged.Connect([this, token](ControlProperty property) {
-        if (token.lock()) Mirror(property);
-    });
+    changedConnection = control->onChanged.Connect([this](ControlProperty property) { Mirror(property); });
 }
 
 // The widget belongs to its Qt parent, except when the control goes away on its own (a control
 // array element unloaded at run time): then the binding takes its widget with it.
 ControlBinding::~ControlBinding() {
-    alive.reset();
-    if (view) view->deleteLater();
+    changedConnection.Disconnect();
+    if (view) {
+        view->hide();
+        view->deleteLater();
+    }
 }
 
 void ControlBinding::Attach(QWidget* parent) {
@@ -49,7 +49,7 @@ void ControlBinding::MirrorAll() {
 void ControlBinding::ShowCaption() {
 }
 
-bool ControlBinding::TakesKey(int16_t, int16_t) const {
+bool ControlBinding::TakesKey(int16_t, char32_t) const {
     return false;
 }
 
@@ -134,13 +134,14 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
 bool ControlBinding::HandleKey(QEvent* event) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const int16_t keyCode = ClassicKeyCode(key->key());
-    const int16_t character = ClassicCharacterCode(*key);
+    const char32_t character = TypedCharacter(*key);
     const bool takes = TakesKey(keyCode, character);
+    char32_t typed = 0;
     Input([&] {
         if (keyCode != 0) control->PressKey(keyCode, ClassicShiftState(key->modifiers()));
-        if (character != 0) control->TypeCharacter(character);
+        if (character != 0) typed = control->TypeCharacter(character);
     });
-    return takes;
+    return takes || (character != 0 && typed == 0 && WidgetTypes());
 }
 
 void ControlBinding::HandleMouse(QEvent* event, bool down) {

@@ -10,7 +10,8 @@
 //
 // The base handles what every control has: caption, enabled, visible, geometry (twips scaled to the
 // screen), focus, keys and the mouse. Each kind adds its own properties in a subclass. A binding
-// keeps its control alive; the control's signals reach the binding only while the binding exists.
+// keeps its control alive; its connections to the control's signals are scoped, so they end with
+// the binding.
 
 #include <exception>
 #include <memory>
@@ -53,7 +54,10 @@ class ControlBinding : public QObject {
     virtual void MirrorAll();
     virtual void ShowCaption();
     // Whether a key press is the model's to handle entirely (the widget must not see it).
-    virtual bool TakesKey(int16_t keyCode, int16_t character) const;
+    virtual bool TakesKey(int16_t keyCode, char32_t character) const;
+    // Whether the widget types the characters the model lets through by itself (an editable combo
+    // box): then a character that a KeyPress handler discarded must not reach it.
+    virtual bool WidgetTypes() const { return false; }
     virtual void AfterInput() {}
 
     // Runs `copy` with the widget's change signals ignored.
@@ -96,7 +100,7 @@ class ControlBinding : public QObject {
     std::shared_ptr<Control> control;
     TwipsScale scale;
     QPointer<QWidget> view;
-    std::shared_ptr<bool> alive = std::make_shared<bool>(true);
+    ScopedConnection changedConnection;
     bool mirroring = false;
 };
 

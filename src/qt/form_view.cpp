@@ -22,22 +22,15 @@ FormView::FormView(std::shared_ptr<Form> formIn, TwipsScale scaleIn, QWidget* pa
     for (Control& control : form->Controls()) Bind(control);
     ShowSize();
 
-    std::weak_ptr<bool> token = alive;
-    form->onControlAdded.Connect([this, token](Control& control) {
-        if (token.lock()) Bind(control);
-    });
-    form->onControlRemoved.Connect([this, token](Control& control) {
-        if (token.lock()) Unbind(control);
-    });
-    form->onChanged.Connect([this, token](ControlProperty property) {
-        if (token.lock()) OnFormChanged(property);
-    });
-    form->SetTextMeasure(
-        [this, token](std::string_view text) { return token.lock() ? MeasureText(text) : 0; });
+    formConnections.push_back(form->onControlAdded.Connect([this](Control& control) { Bind(control); }));
+    formConnections.push_back(form->onControlRemoved.Connect([this](Control& control) { Unbind(control); }));
+    formConnections.push_back(
+        form->onChanged.Connect([this](ControlProperty property) { OnFormChanged(property); }));
+    form->SetTextMeasure([this](std::string_view text) { return MeasureText(text); });
 }
 
 FormView::~FormView() {
-    alive.reset();
+    formConnections.clear();
     form->SetTextMeasure(nullptr);
     // Bindings go first, while the widgets they watch still exist.
     bindings.clear();
@@ -45,7 +38,7 @@ FormView::~FormView() {
 
 QWidget* FormView::WidgetOf(const Control& control) const {
     const auto found = bindings.find(&control);
-    return found == bindings.end() ? nullptr : found->second->View();
+    return found == bindings.end() ? nullptr : found->second.binding->View();
 }
 
 QWidget* FormView::WidgetOf(std::string_view name, int16_t index) const {
@@ -66,12 +59,10 @@ void FormView::Bind(Control& control) {
     auto shared = std::static_pointer_cast<Control>(control.shared_from_this());
     auto binding = MakeBinding(shared, scale);
     binding->Attach(AreaFor(control));
-    std::weak_ptr<bool> token = alive;
     Control* watched = &control;
-    control.onChanged.Connect([this, token, watched](ControlProperty property) {
-        if (token.lock()) OnControlChanged(*watched, property);
-    });
-    bindings[&control] = std::move(binding);
+    ScopedConnection changed = control.onChanged.Connect(
+        [this, watched](ControlProperty property) { OnControlChanged(*watched, property); });
+    bindings[&control] = Bound{std::move(binding), std::move(changed)};
 }
 
 void FormView::Unbind(Control& control) {
@@ -81,7 +72,8 @@ void FormView::Unbind(Control& control) {
 QWidget* FormView::AreaFor(const Control& control) const {
     if (const Frame* frame = control.Container()) {
         const auto found = bindings.find(frame);
-        if (found != bindings.end() && found->second->ChildArea()) return found->second->ChildArea();
+        if (found != bindings.end() && found->second.binding->ChildArea())
+            return found->second.binding->ChildArea();
     }
     return const_cast<FormView*>(this);
 }
@@ -92,16 +84,15 @@ void FormView::OnControlChanged(Control& control, ControlProperty property) {
     const auto found = bindings.find(&control);
     if (found == bindings.end()) return;
     if (property == ControlProperty::Container) {
-        if (QWidget* widget = found->second->View()) {
+        if (QWidget* widget = found->second.binding->View()) {
             widget->setParent(AreaFor(control));
             widget->setVisible(control.Visible());
         }
-        found->second->Reposition();
+        found->second.binding->Reposition();
     } else if (property == ControlProperty::MultiLine) {
-        Unbind(control);
         auto binding = MakeBinding(std::static_pointer_cast<Control>(control.shared_from_this()), scale);
         binding->Attach(AreaFor(control));
-        bindings[&control] = std::move(binding);
+        found->second.binding = std::move(binding);
     }
 }
 

@@ -5,11 +5,13 @@
 // form holds and for every control added later, puts controls placed in a frame inside that
 // frame's widget, and follows the form's caption (the window title), size (twips scaled to the
 // screen) and visibility. It lends the form its font for TextWidth, so column fitting measures
-// what the operator sees. The view keeps the form alive; the form's signals reach the view only
-// while it exists.
+// what the operator sees. The view keeps the form alive; its connections to the form's and the
+// controls' signals are scoped, so they end with the view (or with the binding of a control that
+// is removed).
 
 #include <map>
 #include <memory>
+#include <vector>
 
 #include <QWidget>
 
@@ -43,10 +45,15 @@ class FormView final : public QWidget {
     void PressButton(bool defaultButton);
     int32_t MeasureText(std::string_view text) const;
 
+    struct Bound {
+        std::unique_ptr<ControlBinding> binding;
+        ScopedConnection changed;  // the view's own watch on the control
+    };
+
     std::shared_ptr<Form> form;
     TwipsScale scale;
-    std::map<const Control*, std::unique_ptr<ControlBinding>> bindings;
-    std::shared_ptr<bool> alive = std::make_shared<bool>(true);
+    std::map<const Control*, Bound> bindings;
+    std::vector<ScopedConnection> formConnections;
 };
 
 }  // namespace trovane::qt

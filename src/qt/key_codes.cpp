@@ -71,15 +71,22 @@ int16_t ClassicMouseButton(Qt::MouseButton button) {
     }
 }
 
-// Characters beyond the 8-bit range have no classic code; control characters other than the three
-// editing ones are not typed characters.
-int16_t ClassicCharacterCode(const QKeyEvent& event) {
+// The three editing controls are typed characters; the other control characters (Ctrl+V gives
+// 22) are shortcuts, and DEL (127, Ctrl+Backspace) types nothing. A key held with Control or Alt
+// alone is a shortcut whatever text it carries; with both (AltGr on some systems) it types.
+char32_t TypedCharacter(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (held != Qt::NoModifier && held != (Qt::ControlModifier | Qt::AltModifier)) return 0;
     const QString text = event.text();
-    if (text.size() != 1) return 0;
-    const char16_t code = text.at(0).unicode();
-    if (code == 8 || code == 13 || code == 27) return static_cast<int16_t>(code);
-    if (code < 32 || code == 127 || code > 255) return 0;
-    return static_cast<int16_t>(code);
+    if (text.isEmpty()) return 0;
+    const char32_t code = text.at(0).isHighSurrogate() && text.size() == 2
+                              ? QChar::surrogateToUcs4(text.at(0), text.at(1))
+                              : text.at(0).unicode();
+    if (text.size() != (QChar::requiresSurrogates(code) ? 2 : 1)) return 0;
+    if (code == 8 || code == 13 || code == 27) return code;
+    if (code < 32 || code == 127 || QChar::isSurrogate(code)) return 0;
+    return code;
 }
 
 bool IsNavigationKey(int16_t keyCode) {

@@ -21,9 +21,8 @@ QWidget* ListViewBinding::CreateView(QWidget* parent) {
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionsMovable(false);
     tree->viewport()->installEventFilter(this);
-    std::weak_ptr<bool> token = listAlive;
-    List().onListChanged.Connect([this, token](ListViewChange change, int32_t position) {
-        if (token.lock()) Mirroring([&] { OnListChanged(change, position); });
+    listConnection = List().onListChanged.Connect([this](ListViewChange change, int32_t position) {
+        Mirroring([&] { OnListChanged(change, position); });
     });
     return tree;
 }
@@ -123,7 +122,7 @@ void ListViewBinding::ShowSelection() {
 }
 
 // The navigation keys move the model's selection; the tree must not move its own.
-bool ListViewBinding::TakesKey(int16_t keyCode, int16_t) const {
+bool ListViewBinding::TakesKey(int16_t keyCode, char32_t) const {
     return keyCode >= 33 && keyCode <= 40;
 }
 

@@ -26,7 +26,7 @@ class ListViewBinding final : public ControlBinding {
   protected:
     QWidget* CreateView(QWidget* parent) override;
     void MirrorAll() override;
-    bool TakesKey(int16_t keyCode, int16_t character) const override;
+    bool TakesKey(int16_t keyCode, char32_t character) const override;
     void AfterInput() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -42,7 +42,7 @@ class ListViewBinding final : public ControlBinding {
 
     QTreeWidget* tree = nullptr;
     std::vector<QIcon> icons;
-    std::shared_ptr<bool> listAlive = std::make_shared<bool>(true);
+    ScopedConnection listConnection;
 };
 
 }  // namespace trovane::qt

@@ -1,4 +1,6 @@
 #include <memory>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +104,84 @@ TEST_F(BindingTest, ClickingAGreyCheckBoxShowsWhatTheModelDecides) {
     EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
 }
 
+// The model orders a mouse click's events, whatever order Qt's own button signals would have: an
+// option button's Click comes before its MouseUp. The space bar gives a plain Click.
+TEST_F(BindingTest, MouseClicksRaiseTheClassicOrderOfEventsAndTheSpaceBarAPlainClick) {
+    form->Add<CommandButton>("btnOK").Move(0, 0, 1200, 375);
+    form->Add<CheckBox>("Check1").Move(0, 600, 1500, 300);
+    form->Add<OptionButton>("Option1").Move(0, 1200, 1500, 300);
+    std::vector<std::string> events;
+    for (const char* name : {"btnOK", "Check1", "Option1"}) {
+        Control& control = *form->Find(name);
+        control.onMouseDown.Connect([&](int16_t button, int16_t, float, float) {
+            events.push_back("down " + std::to_string(button));
+        });
+        control.onMouseUp.Connect(
+            [&](int16_t button, int16_t, float, float) { events.push_back("up " + std::to_string(button)); });
+        control.onClick.Connect([&] { events.push_back("click"); });
+    }
+    const struct {
+        const char* name;
+        std::vector<std::string> events;
+    } cases[] = {{"btnOK", {"down 1", "up 1", "click"}},
+                 {"Check1", {"down 1", "up 1", "click"}},
+                 {"Option1", {"down 1", "click", "up 1"}}};
+    for (const auto& c : cases) {
+        auto* widget = qobject_cast<QAbstractButton*>(View().WidgetOf(c.name));
+        ASSERT_NE(widget, nullptr);
+        events.clear();
+        ClickIndicator(widget);
+        EXPECT_EQ(events, c.events) << c.name;
+        events.clear();
+        QTest::mouseClick(widget, Qt::RightButton, {}, QPoint(widget->height() / 2, widget->height() / 2));
+        EXPECT_EQ(events, (std::vector<std::string>{"down 2", "up 2"})) << c.name;
+        events.clear();
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Space);
+        EXPECT_EQ(events, (std::vector<std::string>{"click"})) << c.name;
+    }
+    EXPECT_EQ(form->Get<CheckBox>("Check1").Value(), CheckBox::Unchecked) << "toggled twice";
+    EXPECT_EQ(WidgetOf<QCheckBox>("Check1")->checkState(), Qt::Unchecked);
+    EXPECT_TRUE(WidgetOf<QRadioButton>("Option1")->isChecked());
+}
+
+// Released away from the button, the press is no click.
+TEST_F(BindingTest, AButtonReleasedElsewhereRaisesMouseDownAndUpOnly) {
+    auto& button = form->Add<CommandButton>("btnOK");
+    button.Move(0, 0, 1200, 375);
+    std::vector<std::string> events;
+    button.onMouseDown.Connect([&](int16_t, int16_t, float, float) { events.push_back("down"); });
+    button.onMouseUp.Connect([&](int16_t, int16_t, float, float) { events.push_back("up"); });
+    button.onClick.Connect([&] { events.push_back("click"); });
+    auto* widget = WidgetOf<QPushButton>("btnOK");
+    QTest::mousePress(widget, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_TRUE(widget->isDown());
+    EXPECT_TRUE(events.empty()) << "the sequence is raised on release";
+    QTest::mouseRelease(widget, Qt::LeftButton, {}, QPoint(widget->width() + 40, 5));
+    EXPECT_FALSE(widget->isDown());
+    EXPECT_EQ(events, (std::vector<std::string>{"down", "up"}));
+}
+
+// The view's and the bindings' connections end with them: a control that outlives its view has no
+// handler left that would reach a destroyed binding.
+TEST_F(BindingTest, ControlsThatOutliveTheirViewKeepNoHandlersOfIt) {
+    auto& box = form->Add<TextBox>("txtAttr");
+    auto& list = form->Add<ListView>("ListView1");
+    View();
+    EXPECT_TRUE(box.onChanged.IsConnected());
+    EXPECT_TRUE(list.onListChanged.IsConnected());
+    form->Remove(box);  // the binding of a removed control goes at once
+    EXPECT_FALSE(box.onChanged.IsConnected());
+    view.reset();
+    EXPECT_FALSE(list.onChanged.IsConnected());
+    EXPECT_FALSE(list.onListChanged.IsConnected());
+    EXPECT_FALSE(form->onControlAdded.IsConnected());
+    EXPECT_FALSE(form->onChanged.IsConnected());
+    list.AddColumn("Object text");
+    form->SetCaption("after the view");
+    EXPECT_EQ(form->TextWidth("Prüfung"), 7 * 90) << "the view no longer measures";
+}
+
 TEST_F(BindingTest, OptionButtonsOfOneFrameFormOneGroup) {
     auto& frame = form->Add<Frame>("Frame1");
     frame.Move(0, 0, 3000, 2000);
@@ -125,7 +205,7 @@ TEST_F(BindingTest, KeysArriveWithClassicCodesAndTypedCharactersMayBeDiscarded) 
     auto& text = form->Add<TextBox>("txtOpCntLimit");
     text.Move(0, 0, 1500, 300);
     // Digits only, as a numeric field would do.
-    text.onKeyPress.Connect([](int16_t& character) {
+    text.onKeyPress.Connect([](int32_t& character) {
         if (character != 8 && (character < '0' || character > '9')) character = 0;
     });
     int changes = 0;

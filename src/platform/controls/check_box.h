@@ -4,7 +4,8 @@
 // As in the classic model, setting the value raises Click, whether program code or the operator
 // set it: panels rely on that, and guard their Click handlers where they set the value themselves.
 // A value that is already set raises nothing. The operator's click unchecks a checked box and
-// checks an unchecked or grey one; only code makes a box grey.
+// checks an unchecked or grey one; only code makes a box grey. A mouse click raises MouseDown and
+// MouseUp before that Click, as on a command button.
 
 #include "platform/controls/control.h"
 

@@ -72,6 +72,11 @@ void ComboBox::SetText(std::string text) {
     onChange.Emit();
 }
 
+void ComboBox::EditText(std::string text) {
+    if (!AcceptsInput() || style_ == Style::DropDownList) return;
+    SetText(std::move(text));
+}
+
 Variant ComboBox::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {
     auto is = [&](std::string_view name) { return EqualsIgnoringCase(member, name); };
     if (is("Text"))

@@ -6,6 +6,8 @@
 // only name an entry: setting it selects the first entry equal to it, or raises error 383 when none
 // is. Indexes are 0-based: a ListIndex outside the list raises error 380 (invalid property value),
 // adding or removing at a position that is not there error 5, and reading past the list gives "".
+// Texts are UTF-8. The operator's edit of the free text (typing, paste, drop, undo in the edit
+// field) arrives whole through EditText and raises Change, whose handlers may set the text back.
 
 #include <vector>
 
@@ -35,6 +37,9 @@ class ComboBox : public Control {
     void SetListIndex(int32_t index);
     const std::string& Text() const { return text_; }
     void SetText(std::string text);
+    // The operator's edit of the text; ignored while the control takes no input and in the
+    // drop-down list style, which has no free text.
+    void EditText(std::string text);
 
     Signal<> onChange;
 

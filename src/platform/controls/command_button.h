@@ -1,5 +1,6 @@
 #pragma once
-// CommandButton: raises Click when the operator presses it (and only while it accepts input).
+// CommandButton: raises Click when the operator presses it (and only while it accepts input); a
+// mouse click raises MouseDown, MouseUp and then Click, the space bar only Click.
 // A form's default button answers Enter and its cancel button Escape; the front end decides when.
 
 #include "platform/controls/control.h"

@@ -4,6 +4,8 @@
 #include "core/error.h"
 #include "platform/controls/form.h"
 #include "platform/controls/frame.h"
+#include "platform/controls/key_codes.h"
+#include "platform/controls/key_press_codes.h"
 
 namespace trovane {
 
@@ -30,6 +32,13 @@ class FontObject final : public Object {
 std::shared_ptr<Control> SharedControl(Control& control) {
     if (auto owned = control.weak_from_this().lock()) return std::static_pointer_cast<Control>(owned);
     return std::shared_ptr<Control>(std::shared_ptr<Control>(), &control);  // not owned: borrowed
+}
+
+// A form or frame as a late-bound value: Nothing for none, borrowed when nobody owns it.
+Variant ObjectValue(Object* object) {
+    if (object == nullptr) return Variant::Nothing();
+    if (auto owned = object->weak_from_this().lock()) return Variant(std::move(owned));
+    return Variant(ObjectRef(ObjectRef(), object));
 }
 
 }  // namespace
@@ -69,6 +78,12 @@ void Control::Click() {
     if (AcceptsInput()) onClick.Emit();
 }
 
+void Control::ClickWithMouse(int16_t button, int16_t shift, float x, float y) {
+    MouseDown(button, shift, x, y);
+    MouseUp(button, shift, x, y);
+    if (button == keys::kLeftButton) Click();
+}
+
 void Control::DblClick() {
     if (AcceptsInput()) onDblClick.Emit();
 }
@@ -82,12 +97,16 @@ void Control::PressKey(int16_t keyCode, int16_t shift) {
     onKeyUp.Emit(released, shift);
 }
 
-int16_t Control::TypeCharacter(int16_t keyAscii) {
-    if (!AcceptsInput()) return 0;
-    int16_t code = keyAscii;
+// A handler that leaves the code alone keeps the character typed, even one whose code stands for
+// another character (a control character of the range 128..159 is never typed, so none does).
+char32_t Control::TypeCharacter(char32_t character) {
+    if (!AcceptsInput() || !keypress::IsTypedCharacter(character)) return 0;
+    const int32_t original = keypress::CodeOf(character);
+    int32_t code = original;
     onKeyPress.Emit(code);
-    if (code != 0) ApplyCharacter(code);
-    return code;
+    const char32_t typed = code == original ? character : keypress::CharacterOf(code);
+    if (typed != 0) ApplyCharacter(typed);
+    return typed;
 }
 
 void Control::MouseDown(int16_t button, int16_t shift, float x, float y) {
@@ -121,6 +140,11 @@ Variant Control::Invoke(std::string_view member, CallKind kind, std::span<Varian
         return Property(
             kind, args, [&] { return Variant(fontCharset_); },
             [&](const Variant& v) { SetFontCharset(ToInt32(v)); });
+    // A detached control (its form is gone) has neither.
+    if (is("Parent")) return Property(kind, args, [&] { return ObjectValue(form_); });
+    if (is("Container"))
+        return Property(kind, args,
+                        [&] { return container_ != nullptr ? ObjectValue(container_) : ObjectValue(form_); });
     if (is("SetFocus") && kind == CallKind::Method) {
         SetFocus();
         return Variant();

@@ -4,11 +4,16 @@
 // A control is plain state plus the classic event semantics that the panels are written against.
 // It belongs to at most one form (which owns it), sits either directly on the form or inside a
 // Frame (its container), and may be an element of a control array (Index 0, 1, ...; -1 when it is
-// not). Operator input arrives through the methods below, called by a front end or a test: Click,
-// PressKey (KeyDown, the key's own effect, KeyUp), TypeCharacter (KeyPress, whose handlers may
-// discard the character by setting its code to 0, then the character's effect), the mouse and the
-// focus. A control that is disabled, or inside a disabled frame, ignores operator input; the
-// setters, which model program code, always work.
+// not). Operator input arrives through the methods below, called by a front end or a test: Click
+// (the keyboard's or code's plain click), ClickWithMouse (the classic order of the mouse events and
+// Click), PressKey (KeyDown, the key's own effect, KeyUp), TypeCharacter (a Unicode character:
+// KeyPress, whose handlers see its classic code and may discard it by setting the code to 0, then
+// the character's effect), the mouse and the focus. A control that is disabled, or inside a
+// disabled frame, ignores operator input; the setters, which model program code, always work.
+//
+// The form owns its controls, but a late-bound caller may keep one beyond its form (a Variant
+// holding it): when the form goes, the control is detached (no form, no container) and answers as
+// a control on no form does.
 
 #include <cstdint>
 #include <string>
@@ -55,9 +60,14 @@ class Control : public Widget {
     void SetFocus();
 
     virtual void Click();
+    // The operator's click with a mouse button released over the control: MouseDown, MouseUp, then
+    // Click for the left button (an option button raises its Click before MouseUp).
+    virtual void ClickWithMouse(int16_t button, int16_t shift, float x, float y);
     void DblClick();
     void PressKey(int16_t keyCode, int16_t shift = 0);
-    int16_t TypeCharacter(int16_t keyAscii);
+    // The character that took effect (what a handler may have replaced it with), or 0 when it was
+    // discarded or the control takes no input.
+    char32_t TypeCharacter(char32_t character);
     void MouseDown(int16_t button, int16_t shift, float x, float y);
     void MouseUp(int16_t button, int16_t shift, float x, float y);
 
@@ -67,14 +77,14 @@ class Control : public Widget {
     Signal<> onLostFocus;
     Signal<int16_t&, int16_t> onKeyDown;  // key code (a handler may set it to 0), shift state
     Signal<int16_t&, int16_t> onKeyUp;
-    Signal<int16_t&> onKeyPress;                         // character code; 0 discards the character
+    Signal<int32_t&> onKeyPress;                         // classic character code; 0 discards it
     Signal<int16_t, int16_t, float, float> onMouseDown;  // button, shift, x, y
     Signal<int16_t, int16_t, float, float> onMouseUp;
 
   protected:
     // What a key or a typed character does to the control itself once the handlers let it through.
     virtual void ApplyKey(int16_t /*keyCode*/, int16_t /*shift*/) {}
-    virtual void ApplyCharacter(int16_t /*keyAscii*/) {}
+    virtual void ApplyCharacter(char32_t /*character*/) {}
 
   private:
     friend class Form;

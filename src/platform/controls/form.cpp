@@ -7,6 +7,7 @@
 #include "platform/controls/control_collection.h"
 #include "platform/controls/control_errors.h"
 #include "platform/controls/frame.h"
+#include "platform/controls/utf8_positions.h"
 
 namespace trovane {
 
@@ -20,6 +21,14 @@ std::string ElementName(std::string_view name, int16_t index) {
 
 Form::Form(std::string name) : Widget(std::move(name)) {
     Widget::SetVisible(false);
+}
+
+// Silently: nobody may observe a form that is being destroyed.
+Form::~Form() {
+    for (const auto& control : controls_) {
+        control->form_ = nullptr;
+        control->container_ = nullptr;
+    }
 }
 
 void Form::Adopt(std::shared_ptr<Control> control, int16_t index) {
@@ -42,6 +51,7 @@ void Form::Remove(Control& control) {
     controls_.erase(found);
     onControlRemoved.Emit(control);
     control.form_ = nullptr;
+    control.container_ = nullptr;
 }
 
 Control* Form::Find(std::string_view name, int16_t index) const {
@@ -109,7 +119,7 @@ void Form::MoveFocus(Control* control) {
 
 int32_t Form::TextWidth(std::string_view text) const {
     if (textMeasure_) return textMeasure_(text);
-    return static_cast<int32_t>(text.size()) * 90;
+    return utf8::CharacterCount(text) * 90;
 }
 
 Variant Form::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {
@@ -122,6 +132,10 @@ Variant Form::Invoke(std::string_view member, CallKind kind, std::span<Variant> 
     }
     if (is("Hide") && kind == CallKind::Method) {
         Hide();
+        return Variant();
+    }
+    if (is("Unload") && kind == CallKind::Method) {
+        Unload();
         return Variant();
     }
     if (kind != CallKind::PropertyPut) {

@@ -6,8 +6,9 @@
 // are found by name without regard to case, and control-array elements by name and index. A form
 // is loaded (Load, or Show), shown and hidden, and unloaded (Unload raises onUnload, whose handlers
 // may cancel by setting the flag to true). Its window handle is whatever the window system assigned
-// (0 while there is no window). Late-bound, a form answers its own properties, "Show", "Hide",
-// "Unload", "Controls", and the name of each control (with the index for an array element).
+// (0 while there is no window). Late-bound, a form answers its own properties, "hWnd", "Show",
+// "Hide", "Unload", "Controls", and the name of each control (with the index for an array element).
+// A form that goes away detaches its controls, so that one still held elsewhere points at no form.
 
 #include <cstdint>
 #include <functional>
@@ -22,6 +23,7 @@ namespace trovane {
 class Form : public Widget {
   public:
     explicit Form(std::string name);
+    ~Form() override;
     std::string ClassName() const override { return Name(); }
     Variant Invoke(std::string_view member, CallKind kind, std::span<Variant> args) override;
 
@@ -38,10 +40,10 @@ class Form : public Widget {
     // The controls in order, as references (a plain range: the ranges library's views do not build
     // with every toolchain the project supports).
     class ControlRange {
-    public:
+      public:
         using Owned = std::vector<std::shared_ptr<Control>>;
         class Iterator {
-        public:
+          public:
             explicit Iterator(Owned::const_iterator at) : at_(at) {}
             Control& operator*() const { return **at_; }
             Iterator& operator++() {
@@ -50,14 +52,14 @@ class Form : public Widget {
             }
             bool operator!=(const Iterator& other) const { return at_ != other.at_; }
 
-        private:
+          private:
             Owned::const_iterator at_;
         };
         explicit ControlRange(const Owned& owned) : owned_(owned) {}
         Iterator begin() const { return Iterator(owned_.begin()); }
         Iterator end() const { return Iterator(owned_.end()); }
 
-    private:
+      private:
         const Owned& owned_;
     };
     ControlRange Controls() const { return ControlRange(controls_); }
@@ -91,7 +93,7 @@ class Form : public Widget {
     Control* ActiveControl() const { return activeControl_; }
     void MoveFocus(Control* control);
 
-    // Width of a text in twips as the front end measures it; without one, a fixed 90 per character.
+    // Width of a text in twips as the front end measures it; without one, 90 per character.
     int32_t TextWidth(std::string_view text) const;
     void SetTextMeasure(std::function<int32_t(std::string_view)> measure) {
         textMeasure_ = std::move(measure);

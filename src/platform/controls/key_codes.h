@@ -1,5 +1,5 @@
 #pragma once
-// The classic numeric key and character codes that controls and panels receive.
+// The classic numeric key and character codes and mouse buttons that controls and panels receive.
 
 #include <cstdint>
 
@@ -20,6 +20,11 @@ inline constexpr int16_t kRight = 39;
 inline constexpr int16_t kDown = 40;
 inline constexpr int16_t kInsert = 45;
 inline constexpr int16_t kDelete = 46;
+
+// Mouse buttons, as the MouseDown and MouseUp events number them.
+inline constexpr int16_t kLeftButton = 1;
+inline constexpr int16_t kRightButton = 2;
+inline constexpr int16_t kMiddleButton = 4;
 
 // The keys that move a list's selection: up, down, page up, page down, home, end.
 constexpr bool IsNavigationKey(int16_t keyCode) {

@@ -2,6 +2,7 @@
 
 #include "core/conversions.h"
 #include "platform/controls/form.h"
+#include "platform/controls/key_codes.h"
 
 namespace trovane {
 
@@ -31,6 +32,12 @@ void OptionButton::Click() {
         onClick.Emit();
     else
         SetValue(true);
+}
+
+void OptionButton::ClickWithMouse(int16_t button, int16_t shift, float x, float y) {
+    MouseDown(button, shift, x, y);
+    if (button == keys::kLeftButton) Click();
+    MouseUp(button, shift, x, y);
 }
 
 Variant OptionButton::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {

@@ -6,6 +6,8 @@
 // group, which report their change but raise no Click, and then raises Click on the selected one.
 // Setting the value a button already has raises nothing (the operator's click on the selected
 // button does raise Click again); clearing a button by code leaves the group without a selection.
+// The operator's mouse click raises Click between MouseDown and MouseUp: a MouseUp handler finds
+// the group already changed.
 
 #include "platform/controls/control.h"
 
@@ -19,6 +21,7 @@ class OptionButton : public Control {
     bool Value() const { return value_; }
     void SetValue(bool value);
     void Click() override;
+    void ClickWithMouse(int16_t button, int16_t shift, float x, float y) override;
 
   private:
     void ClearSiblings();

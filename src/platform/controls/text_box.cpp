@@ -5,16 +5,11 @@
 #include "core/conversions.h"
 #include "platform/controls/control_errors.h"
 #include "platform/controls/key_codes.h"
+#include "platform/controls/utf8_positions.h"
 
 namespace trovane {
 
 using namespace keys;
-
-namespace {
-int32_t LengthOf(const std::string& text) {
-    return static_cast<int32_t>(text.size());
-}
-}  // namespace
 
 // The new text and the caret are both in place before Change is raised, so that a handler sees a
 // consistent box and may set the text back.
@@ -29,6 +24,10 @@ void TextBox::SetText(std::string text) {
     onChange.Emit();
 }
 
+int32_t TextBox::Length() const {
+    return utf8::CharacterCount(text_);
+}
+
 void TextBox::SetMaxLength(int32_t maxLength) {
     if (maxLength < 0) throw InvalidPropertyValue();
     Assign(maxLength_, maxLength, ControlProperty::MaxLength);
@@ -36,12 +35,12 @@ void TextBox::SetMaxLength(int32_t maxLength) {
 
 void TextBox::SetSelStart(int32_t start) {
     if (start < 0) throw InvalidPropertyValue();
-    SetSelection(std::min(start, LengthOf(text_)), 0);
+    SetSelection(std::min(start, Length()), 0);
 }
 
 void TextBox::SetSelLength(int32_t length) {
     if (length < 0) throw InvalidPropertyValue();
-    SetSelection(selStart_, std::min(length, LengthOf(text_) - selStart_));
+    SetSelection(selStart_, std::min(length, Length() - selStart_));
 }
 
 void TextBox::SetSelection(int32_t start, int32_t length) {
@@ -51,9 +50,19 @@ void TextBox::SetSelection(int32_t start, int32_t length) {
     onChanged.Emit(ControlProperty::Selection);
 }
 
-void TextBox::SetSelText(const std::string& text) {
-    std::string updated = text_.substr(0, selStart_) + text + text_.substr(selStart_ + selLength_);
-    const int32_t caret = selStart_ + LengthOf(text);
+std::string TextBox::SelText() const {
+    const size_t from = utf8::ByteOffset(text_, selStart_);
+    const size_t to = from + utf8::ByteOffset(std::string_view(text_).substr(from), selLength_);
+    return text_.substr(from, to - from);
+}
+
+void TextBox::SetSelText(std::string_view text) {
+    const size_t from = utf8::ByteOffset(text_, selStart_);
+    const size_t to = from + utf8::ByteOffset(std::string_view(text_).substr(from), selLength_);
+    std::string updated = text_.substr(0, from);
+    updated += text;
+    updated += std::string_view(text_).substr(to);
+    const int32_t caret = selStart_ + utf8::CharacterCount(text);
     if (updated == text_) {
         SetSelection(caret, 0);
         return;
@@ -66,8 +75,25 @@ void TextBox::SetSelText(const std::string& text) {
     onChange.Emit();
 }
 
+int32_t TextBox::Room() const {
+    if (maxLength_ == 0) return -1;
+    return std::max(maxLength_ - (Length() - selLength_), 0);
+}
+
+bool TextBox::EnterText(std::string_view text) {
+    if (!AcceptsInput() || locked_) return false;
+    if (!multiLine_) text = text.substr(0, std::min(text.find('\r'), text.find('\n')));
+    const int32_t room = Room();
+    if (room >= 0 && utf8::CharacterCount(text) > room) {
+        if (room == 0 && !text.empty()) return false;
+        text = text.substr(0, utf8::ByteOffset(text, room));
+    }
+    SetSelText(text);
+    return true;
+}
+
 void TextBox::ApplyKey(int16_t keyCode, int16_t /*shift*/) {
-    const int32_t length = LengthOf(text_);
+    const int32_t length = Length();
     switch (keyCode) {
         case kHome:
             SetSelection(0, 0);
@@ -91,17 +117,18 @@ void TextBox::ApplyKey(int16_t keyCode, int16_t /*shift*/) {
     }
 }
 
-void TextBox::ApplyCharacter(int16_t keyAscii) {
+void TextBox::ApplyCharacter(char32_t character) {
     if (locked_) return;
-    if (keyAscii == kBackspace) {
+    if (character == kBackspace) {
         if (selLength_ == 0 && selStart_ > 0) SetSelection(selStart_ - 1, 1);
         SetSelText("");
         return;
     }
-    if (keyAscii < 32 && !(keyAscii == kEnter && multiLine_)) return;
-    const std::string typed =
-        keyAscii == kEnter ? std::string("\r\n") : std::string(1, static_cast<char>(keyAscii));
-    if (maxLength_ > 0 && LengthOf(text_) - selLength_ + LengthOf(typed) > maxLength_) return;
+    const bool lineBreak = character == kEnter && multiLine_;
+    if ((character < 32 && !lineBreak) || character == 127) return;
+    const std::string typed = lineBreak ? std::string("\r\n") : utf8::Encode(character);
+    const int32_t room = Room();
+    if (room >= 0 && utf8::CharacterCount(typed) > room) return;
     SetSelText(typed);
 }
 

@@ -70,6 +70,50 @@ TEST_F(FormTest, LateBoundFormReachesItsControlsByNameAndThroughTheCollection) {
     EXPECT_EQ(ErrorNumberOf([&] { CallMethod(controls, "Item", {Variant(int32_t{5})}); }), 9);
 }
 
+TEST_F(FormTest, LateBoundUnloadAndParentReachTheForm) {
+    const Variant target{ObjectRef(form)};
+    CallMethod(target, "Show");
+    EXPECT_TRUE(form->Visible());
+    const Variant check = GetProperty(target, "chkCounterInUse");
+    EXPECT_EQ(TypeName(GetProperty(check, "Parent")), "frmTest");
+    EXPECT_EQ(TypeName(GetProperty(check, "Container")), "frmTest");
+    CallMethod(target, "Unload");
+    EXPECT_FALSE(form->Loaded());
+    EXPECT_FALSE(form->Visible());
+}
+
+// A late-bound caller may keep a control after its form is gone; the control then belongs to no
+// form and every member still answers.
+TEST_F(FormTest, AControlThatOutlivesItsFormAnswersSafely) {
+    auto& frame = form->Add<Frame>("Frame1");
+    auto& option = form->Add<OptionButton>("Opt_NCC");
+    option.SetContainer(&frame);
+    option.SetFocus();
+    Variant kept = GetProperty(Variant(ObjectRef(form)), "Opt_NCC");
+    Variant keptCheck = CallMethod(form->ControlsObject(), "Item", {Variant("chkCounterInUse")});
+    std::weak_ptr<Form> watch = form;
+    form.reset();
+    ASSERT_TRUE(watch.expired());
+    auto& control = static_cast<OptionButton&>(*kept.AsObject());
+    EXPECT_EQ(control.ParentForm(), nullptr);
+    EXPECT_EQ(control.Container(), nullptr);
+    EXPECT_FALSE(control.HasFocus());
+    PutProperty(kept, "Caption", Variant("NCC"));
+    EXPECT_EQ(ToString(GetProperty(kept, "Caption")), "NCC");
+    EXPECT_TRUE(GetProperty(kept, "Parent").IsNothing());
+    EXPECT_TRUE(GetProperty(kept, "Container").IsNothing());
+    PutProperty(GetProperty(kept, "Font"), "Charset", Variant(int32_t{238}));
+    EXPECT_EQ(control.FontCharset(), 238);
+    int clicks = 0;
+    control.onClick.Connect([&] { ++clicks; });
+    control.ClickWithMouse(1, 0, 0, 0);
+    CallMethod(kept, "SetFocus");
+    EXPECT_TRUE(control.Value());
+    EXPECT_EQ(clicks, 1);
+    PutProperty(keptCheck, "Value", Variant(int16_t{1}));
+    EXPECT_EQ(ToInt32(GetProperty(keptCheck, "Value")), 1);
+}
+
 TEST_F(FormTest, FontCharsetReachesControlsWithAFontOnly) {
     for (int32_t i = 0; i < 5; ++i) {
         const Variant control = CallMethod(form->ControlsObject(), "Item", {Variant(i)});

@@ -1,8 +1,16 @@
-// The controls with one rule each worth checking: the button, timer, tab strip and combo box.
+// The controls with one rule each worth checking: the button, timer, tab strip and combo box, and
+// the order of the events of a mouse click on each kind the operator presses.
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/controls/check_box.h"
 #include "platform/controls/combo_box.h"
 #include "platform/controls/command_button.h"
+#include "platform/controls/form.h"
+#include "platform/controls/option_button.h"
 #include "platform/controls/tab_strip.h"
 #include "platform/controls/timer.h"
 #include "support/error_number.h"
@@ -75,6 +83,58 @@ TEST(SimpleControls, DropDownListTextMustNameAnEntry) {
     EXPECT_EQ(combo.ListIndex(), 1);
     EXPECT_EQ(ErrorNumberOf([&] { combo.SetText("Ajar"); }), 383);
     EXPECT_EQ(combo.Text(), "Closed");
+}
+
+TEST(SimpleControls, ComboTextEditedByTheOperatorRaisesChangeUnlessDisabledOrAList) {
+    ComboBox combo("cboAttr");
+    std::vector<std::string> changes;
+    combo.onChange.Connect([&] { changes.push_back(combo.Text()); });
+    combo.EditText("Prüfung");
+    combo.SetEnabled(false);
+    combo.EditText("ignored");
+    combo.SetEnabled(true);
+    combo.SetListStyle(ComboBox::Style::DropDownList);
+    combo.EditText("no free text");
+    EXPECT_EQ(changes, (std::vector<std::string>{"Prüfung"}));
+}
+
+// The classic order: a button and a check box raise Click after MouseUp, an option button before
+// it (a panel's MouseUp handler relies on the group being settled); only the left button clicks,
+// and the keyboard's click is a plain Click.
+TEST(SimpleControls, MouseClickRaisesTheClassicOrderOfEventsForEachKind) {
+    Form form("frmTest");
+    const struct {
+        Control* control;
+        int16_t button;
+        std::vector<std::string> events;
+    } cases[] = {
+        {&form.Add<CommandButton>("btnOK"), 1, {"down 1", "up 1", "click"}},
+        {&form.Add<CheckBox>("Check1"), 1, {"down 1", "up 1", "click"}},
+        {&form.Add<OptionButton>("Option1"), 1, {"down 1", "click", "up 1"}},
+        {&form.Add<OptionButton>("Option2"), 2, {"down 2", "up 2"}},
+        {&form.Add<CheckBox>("Check2"), 2, {"down 2", "up 2"}},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> events;
+        Control& control = *c.control;
+        control.onMouseDown.Connect([&](int16_t button, int16_t, float, float) {
+            events.push_back("down " + std::to_string(button));
+        });
+        control.onMouseUp.Connect(
+            [&](int16_t button, int16_t, float, float) { events.push_back("up " + std::to_string(button)); });
+        control.onClick.Connect([&] { events.push_back("click"); });
+        control.ClickWithMouse(c.button, 0, 30, 45);
+        EXPECT_EQ(events, c.events) << control.Name();
+        events.clear();
+        control.Click();
+        EXPECT_EQ(events, (std::vector<std::string>{"click"})) << control.Name();
+        control.onMouseDown.DisconnectAll();
+        control.onMouseUp.DisconnectAll();
+        control.onClick.DisconnectAll();
+    }
+    EXPECT_EQ(form.Get<CheckBox>("Check1").Value(), CheckBox::Unchecked) << "toggled twice";
+    EXPECT_EQ(form.Get<CheckBox>("Check2").Value(), CheckBox::Checked) << "the right button does not toggle";
+    EXPECT_TRUE(form.Get<OptionButton>("Option2").Value());
 }
 
 }  // namespace
