@@ -14,14 +14,12 @@ bool HeadlessPresenter::IsPresented(const Form& form) const {
 void HeadlessPresenter::Present(Form& form, int32_t ownerWindow, bool modal) {
     if (!IsPresented(form)) {
         const int32_t hwnd = nextHandle++;
-        auto alive = std::make_shared<bool>(true);
-        presented[hwnd] = Presentation{&form, ownerWindow, modal, alive};
-        form.SetHwnd(hwnd);
-        std::weak_ptr<bool> token = alive;
         Form* watched = &form;
-        form.onUnload.Connect([this, token, watched](bool& cancel) {
-            if (token.lock() && !cancel) Dismiss(*watched);
-        });
+        auto dismissOnUnload = [this, watched](bool& cancel) {
+            if (!cancel) Dismiss(*watched);
+        };
+        presented[hwnd] = Presentation{&form, ownerWindow, modal, form.onUnload.Connect(dismissOnUnload)};
+        form.SetHwnd(hwnd);
     }
     Presentation& presentation = presented.at(form.Hwnd());
     presentation.owner = ownerWindow;
@@ -33,10 +31,10 @@ void HeadlessPresenter::Present(Form& form, int32_t ownerWindow, bool modal) {
 void HeadlessPresenter::Dismiss(Form& form) {
     if (!IsPresented(form)) return;
     const int32_t hwnd = form.Hwnd();
-    const Presentation presentation = presented.at(hwnd);
+    const Presentation& presentation = presented.at(hwnd);
+    records.push_back({Record::Kind::Dismiss, form.Name(), presentation.owner, presentation.modal, hwnd});
     presented.erase(hwnd);
     form.SetHwnd(0);
-    records.push_back({Record::Kind::Dismiss, form.Name(), presentation.owner, presentation.modal, hwnd});
 }
 
 }  // namespace trovane

@@ -10,10 +10,10 @@
 
 #include <cstdint>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
+#include "platform/controls/signal.h"
 #include "platform/presenter.h"
 
 namespace trovane {
@@ -43,7 +43,7 @@ class HeadlessPresenter final : public Presenter {
         const Form* form;
         int32_t owner;
         bool modal;
-        std::shared_ptr<bool> alive;  // the form's unload handler acts only while this exists
+        ScopedConnection unloadWatch;  // ends with the presentation
     };
 
     std::map<int32_t, Presentation> presented;

@@ -59,10 +59,8 @@ void QtPresenter::Present(Form& form, int32_t ownerWindow, bool modal) {
             view->setWindowFlags(Qt::Dialog);
         }
         const int32_t hwnd = windows->HandleOf(view);
-        auto alive = std::make_shared<bool>(true);
-        presented[hwnd] = Presentation{view, alive};
+        presented[hwnd] = Presentation{view, Watch(form, hwnd)};
         form.SetHwnd(hwnd);
-        Watch(form, hwnd, alive);
         Place(*view);
     }
     const int32_t hwnd = form.Hwnd();
@@ -84,26 +82,23 @@ void QtPresenter::Present(Form& form, int32_t ownerWindow, bool modal) {
     if (view && form.Visible()) view->show();
 }
 
-void QtPresenter::Watch(Form& form, int32_t hwnd, const std::shared_ptr<bool>& alive) {
-    std::weak_ptr<bool> token = alive;
+std::vector<ScopedConnection> QtPresenter::Watch(Form& form, int32_t hwnd) {
+    std::vector<ScopedConnection> watches;
     // After the unload has run to its end: only then is it certain that no handler cancelled it, and
     // only then may the view go, since the unload may come from a click on one of its buttons.
-    form.onUnload.Connect([this, token, hwnd](bool& cancel) {
-        if (cancel || !token.lock()) return;
+    watches.emplace_back(form.onUnload.Connect([this, hwnd](bool& cancel) {
+        if (cancel) return;
         const auto found = presented.find(hwnd);
         if (found == presented.end() || !found->second.view) return;
         QMetaObject::invokeMethod(
-            found->second.view.data(),
-            [this, token, hwnd] {
-                if (token.lock()) DismissIfUnloaded(hwnd);
-            },
-            Qt::QueuedConnection);
-    });
-    form.onChanged.Connect([this, token, hwnd](ControlProperty property) {
-        if (property != ControlProperty::Geometry || !token.lock()) return;
+            found->second.view.data(), [this, hwnd] { DismissIfUnloaded(hwnd); }, Qt::QueuedConnection);
+    }));
+    watches.emplace_back(form.onChanged.Connect([this, hwnd](ControlProperty property) {
+        if (property != ControlProperty::Geometry) return;
         const auto found = presented.find(hwnd);
         if (found != presented.end() && found->second.view) Place(*found->second.view);
-    });
+    }));
+    return watches;
 }
 
 void QtPresenter::DismissIfUnloaded(int32_t hwnd) {

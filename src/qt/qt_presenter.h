@@ -18,6 +18,7 @@
 
 #include <QPointer>
 
+#include "platform/controls/signal.h"
 #include "platform/presenter.h"
 #include "qt/form_view.h"
 #include "qt/qt_window_system.h"
@@ -40,12 +41,12 @@ class QtPresenter final : public Presenter {
   private:
     struct Presentation {
         QPointer<FormView> view;
-        std::shared_ptr<bool> alive;  // the form's handlers act only while this exists
+        std::vector<ScopedConnection> watches;  // on the form, ending with the presentation
     };
     // The presentation of the form, or nullptr; one whose view its owner took along is forgotten.
     Presentation* Find(const Form& form);
     FormView* TakeBackReleased(const Form& form);
-    void Watch(Form& form, int32_t hwnd, const std::shared_ptr<bool>& alive);
+    std::vector<ScopedConnection> Watch(Form& form, int32_t hwnd);
     void DismissIfUnloaded(int32_t hwnd);
     void Place(FormView& view);
 

@@ -40,6 +40,7 @@ TEST(HeadlessPresenterTest, PresentGivesAHandleBeforeLoadingAndDismissTakesItBac
     EXPECT_EQ(dialog->Hwnd(), 0);
     EXPECT_FALSE(presenter.IsPresented(*dialog));
     EXPECT_TRUE(dialog->Loaded()) << "dismissing takes the window, not the form";
+    EXPECT_FALSE(dialog->onUnload.IsConnected()) << "no handler is left behind on the form";
     presenter.Dismiss(*dialog);  // nothing left to dismiss: not recorded
 
     presenter.Present(*dialog, 0, false);

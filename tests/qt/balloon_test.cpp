@@ -71,12 +71,12 @@ TEST_F(QtBalloonTest, ShownAtTheTargetItStaysOpenFollowsItAndIsReplacedAndHidden
 
 TEST_F(QtBalloonTest, WithoutRoomBelowItOpensAboveAndStaysInsideTheWorkArea) {
     const QRect work = Work();
-    const ScreenRect corner{work.right() - 20, work.bottom() - 20, work.right() + 1, work.bottom() + 1};
+    const ScreenRect corner{work.right() - 60, work.bottom() - 20, work.right() - 20, work.bottom() + 1};
     windows.ShowBalloon(*bar, corner, {"Title", BalloonTip::kWarningIcon, "A longer text for the balloon"});
     BalloonTipWindow* balloon = windows.BalloonOf(*bar);
     ASSERT_NE(balloon, nullptr);
     EXPECT_TRUE(balloon->OpensAbove());
-    EXPECT_EQ(balloon->StemPoint(), QPoint(work.right() - 10, work.bottom() - 20));
+    EXPECT_EQ(balloon->StemPoint(), QPoint(work.right() - 41, work.bottom() - 20));
     EXPECT_TRUE(work.contains(balloon->geometry()))
         << balloon->geometry().x() << "," << balloon->geometry().y();
 }

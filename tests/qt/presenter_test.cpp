@@ -1,6 +1,7 @@
 // The Qt presenter: library forms in windows of their own, released only after the event that
 // unloaded them.
 
+#include <functional>
 #include <memory>
 
 #include <gtest/gtest.h>
@@ -23,14 +24,16 @@ class QtPresenterTest : public ::testing::Test {
   protected:
     QtPresenterTest() { trovane::testing::TestApplication(); }
 
-    // A dialog whose OK button unloads it from its own click.
-    static std::shared_ptr<Form> MakeDialog() {
+    // A dialog whose OK button ends it from its own click: unloads it, unless told otherwise.
+    static std::shared_ptr<Form> MakeDialog(std::function<void(Form&)> onOk = [](Form& form) {
+        form.Unload();
+    }) {
         auto form = std::make_shared<Form>("frmComment");
         form->Move(0, 0, 3000, 1500);
         Form* self = form.get();
         CommandButton& ok = form->Add<CommandButton>("btnOK");
         ok.Move(120, 120, 1200, 375);
-        ok.onClick.Connect([self] { self->Unload(); });
+        ok.onClick.Connect([self, onOk] { onOk(*self); });
         return form;
     }
 
@@ -44,28 +47,31 @@ class QtPresenterTest : public ::testing::Test {
     QtPresenter& presenter = *platform.presenter;
 };
 
-TEST_F(QtPresenterTest, AFormUnloadedByItsOwnButtonIsReleasedAfterTheClick) {
-    std::weak_ptr<Form> released;
-    QPointer<FormView> view;
-    {
-        auto dialog = MakeDialog();
-        released = dialog;
-        presenter.Present(*dialog, 0, false);
-        dialog->Show();
-        view = presenter.ViewOf(*dialog);
-        ASSERT_FALSE(view.isNull());
-        EXPECT_TRUE(view->isWindow());
-        EXPECT_TRUE(view->isVisible());
-        EXPECT_EQ(dialog->Hwnd(), platform.windows->HandleOf(view));
+// Both ways a dialog's own button ends it: unloading the form, or dismissing its window outright.
+TEST_F(QtPresenterTest, AFormEndedByItsOwnButtonIsReleasedAfterTheClick) {
+    for (const bool unload : {true, false}) {
+        std::weak_ptr<Form> released;
+        QPointer<FormView> view;
+        {
+            auto dialog = unload ? MakeDialog() : MakeDialog([this](Form& form) { presenter.Dismiss(form); });
+            released = dialog;
+            presenter.Present(*dialog, 0, false);
+            dialog->Show();
+            view = presenter.ViewOf(*dialog);
+            ASSERT_FALSE(view.isNull());
+            EXPECT_TRUE(view->isWindow());
+            EXPECT_TRUE(view->isVisible());
+            EXPECT_EQ(dialog->Hwnd(), platform.windows->HandleOf(view));
+        }
+        auto* button = qobject_cast<QPushButton*>(view->WidgetOf("btnOK"));
+        ASSERT_NE(button, nullptr);
+        QTest::mouseClick(button, Qt::LeftButton);
+        ASSERT_FALSE(released.expired()) << unload;
+        EXPECT_NE(released.lock()->Loaded(), unload);
+        LetTheEventLoopRun();
+        EXPECT_TRUE(view.isNull()) << unload;
+        EXPECT_TRUE(released.expired()) << "the window was the form's last holder";
     }
-    auto* button = qobject_cast<QPushButton*>(view->WidgetOf("btnOK"));
-    ASSERT_NE(button, nullptr);
-    QTest::mouseClick(button, Qt::LeftButton);
-    ASSERT_FALSE(released.expired());
-    EXPECT_FALSE(released.lock()->Loaded());
-    LetTheEventLoopRun();
-    EXPECT_TRUE(view.isNull());
-    EXPECT_TRUE(released.expired()) << "the window was the form's last holder";
 }
 
 TEST_F(QtPresenterTest, OwnerAndModalityFollowTheRequest) {
@@ -126,7 +132,8 @@ TEST_F(QtPresenterTest, ACancelledUnloadKeepsTheWindowAndClosingItUnloads) {
     auto dialog = MakeDialog();
     presenter.Present(*dialog, 0, false);
     bool keep = true;
-    dialog->onUnload.Connect([&](bool& cancel) { cancel = keep; });  // after the presenter's handler
+    SignalConnection keeper =
+        dialog->onUnload.Connect([&](bool& cancel) { cancel = keep; });  // after the presenter's handler
     dialog->Show();
     QPointer<FormView> view = presenter.ViewOf(*dialog);
     dialog->Unload();
@@ -140,6 +147,8 @@ TEST_F(QtPresenterTest, ACancelledUnloadKeepsTheWindowAndClosingItUnloads) {
     LetTheEventLoopRun();
     EXPECT_TRUE(view.isNull());
     EXPECT_EQ(dialog->Hwnd(), 0);
+    keeper.Disconnect();
+    EXPECT_FALSE(dialog->onUnload.IsConnected()) << "the presenter left no handler behind";
 }
 
 TEST_F(QtPresenterTest, APlacedFormPutsItsWindowThereAndThePresenterTakesItsWindowsAlong) {
