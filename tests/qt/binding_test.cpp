@@ -170,7 +170,8 @@ TEST_F(BindingTest, ControlsThatOutliveTheirViewKeepNoHandlersOfIt) {
     View();
     EXPECT_TRUE(box.onChanged.IsConnected());
     EXPECT_TRUE(list.onListChanged.IsConnected());
-    form->Remove(box);  // the binding of a removed control goes at once
+    const ObjectRef kept = box.shared_from_this();  // held elsewhere, as a late-bound caller may
+    form->Remove(box);                              // the binding of a removed control goes at once
     EXPECT_FALSE(box.onChanged.IsConnected());
     view.reset();
     EXPECT_FALSE(list.onChanged.IsConnected());
