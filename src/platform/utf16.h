@@ -11,5 +11,7 @@
 namespace trovane {
 
 std::string Utf16ToUtf8(std::u16string_view text);
+// Appends the UTF-8 form of one code point; a surrogate or a value beyond U+10FFFF becomes U+FFFD.
+void AppendUtf8(std::string& out, char32_t codePoint);
 
 }  // namespace trovane

@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/utf16.h"
+
 namespace trovane::utf8 {
 
 namespace detail {
@@ -63,23 +65,8 @@ constexpr size_t ByteOffset(std::string_view text, int32_t characters) {
 
 // The UTF-8 form of a code point; a surrogate or a value beyond U+10FFFF becomes U+FFFD.
 inline std::string Encode(char32_t codePoint) {
-    if ((codePoint >= 0xD800 && codePoint <= 0xDFFF) || codePoint > 0x10FFFF) codePoint = 0xFFFD;
     std::string out;
-    if (codePoint < 0x80) {
-        out += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        out += static_cast<char>(0xC0 | (codePoint >> 6));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    } else if (codePoint < 0x10000) {
-        out += static_cast<char>(0xE0 | (codePoint >> 12));
-        out += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    } else {
-        out += static_cast<char>(0xF0 | (codePoint >> 18));
-        out += static_cast<char>(0x80 | ((codePoint >> 12) & 0x3F));
-        out += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    }
+    AppendUtf8(out, codePoint);
     return out;
 }
 
