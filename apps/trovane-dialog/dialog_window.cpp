@@ -65,12 +65,9 @@ void DialogWindow::Start() {
     pages = new QTabWidget(this);
     pages->setObjectName("tabPages");
     layout->addWidget(pages);
-    for (const SitedPanels::Sited& sited : host.Panels().Panels()) {
-        if (sited.site.page == kTopArea)
-            AddPanelView(sited, *top);
-        else
-            AddPanelView(sited, *static_cast<QVBoxLayout*>(AddPageArea(sited.site.page)->layout()));
-    }
+    for (const SitedPanels::Sited& sited : host.Panels().Panels())
+        if (sited.site.page == kTopArea) AddPanelView(sited, *top);
+    for (const DialogPage& page : DialogPages()) AddPage(page);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -84,26 +81,20 @@ void DialogWindow::Start() {
     pump->Start();
 }
 
-// The page's area, made with its tab on first use; tabs keep the order of DialogPages.
-QWidget* DialogWindow::AddPageArea(const std::string& pageName) {
-    for (size_t i = 0; i < pageNames.size(); ++i)
-        if (pageNames[i] == pageName) return pages->widget(static_cast<int>(i));
-    const DialogPage* page = FindDialogPage(pageName);
-    const std::string title = page ? host.Functions().GetNlsString(page->titleText) : pageName;
-    auto* area = new QWidget(pages);
-    area->setObjectName(qt::ToQString("page_" + pageName));
-    new QVBoxLayout(area);
-    size_t position = 0;
-    const auto& order = DialogPages();
-    auto rank = [&](const std::string& name) {
-        for (size_t i = 0; i < order.size(); ++i)
-            if (order[i].name == name) return i;
-        return order.size();
-    };
-    while (position < pageNames.size() && rank(pageNames[position]) <= rank(pageName)) ++position;
-    pages->insertTab(static_cast<int>(position), area, qt::ToQString(title));
-    pageNames.insert(pageNames.begin() + static_cast<std::ptrdiff_t>(position), pageName);
-    return area;
+// A page gets its tab only when it holds a panel; its panels stand in table order.
+void DialogWindow::AddPage(const DialogPage& page) {
+    QVBoxLayout* area = nullptr;
+    for (const SitedPanels::Sited& sited : host.Panels().Panels()) {
+        if (sited.site.page != page.name) continue;
+        if (!area) {
+            auto* widget = new QWidget(pages);
+            widget->setObjectName(qt::ToQString("page_" + page.name));
+            area = new QVBoxLayout(widget);
+            pages->addTab(widget, qt::ToQString(host.Functions().GetNlsString(page.titleText)));
+            pageNames.push_back(page.name);
+        }
+        AddPanelView(sited, *area);
+    }
 }
 
 // The view is made inside its frame (or area) from the start: a view made without a parent would

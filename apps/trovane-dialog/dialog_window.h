@@ -17,6 +17,7 @@
 #include <QWidget>
 
 #include "dialog_host.h"
+#include "panel_sites.h"
 #include "qt/form_view.h"
 #include "qt/notification_pump.h"
 #include "qt/qt_platform.h"
@@ -49,7 +50,7 @@ class DialogWindow final : public QWidget {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    QWidget* AddPageArea(const std::string& pageName);
+    void AddPage(const DialogPage& page);
     void AddPanelView(const SitedPanels::Sited& sited, QVBoxLayout& area);
     WindowPosition PositionInTwips() const;
     qt::TwipsScale Scale() const;

@@ -42,8 +42,7 @@ constexpr int32_t CodeOf(char32_t character) {
 constexpr char32_t CharacterOf(int32_t code) {
     if (code <= 0) return 0;
     if (code >= 0x80 && code <= 0x9F) {
-        const char16_t mapped = detail::kHighControlRange[static_cast<size_t>(code - 0x80)];
-        return mapped != 0 ? mapped : 0;
+        return detail::kHighControlRange[static_cast<size_t>(code - 0x80)];
     }
     const auto character = static_cast<char32_t>(code);
     return IsTypedCharacter(character) ? character : 0;

@@ -50,15 +50,18 @@ void TextBox::SetSelection(int32_t start, int32_t length) {
     onChanged.Emit(ControlProperty::Selection);
 }
 
-std::string TextBox::SelText() const {
+std::pair<size_t, size_t> TextBox::SelectionBytes() const {
     const size_t from = utf8::ByteOffset(text_, selStart_);
-    const size_t to = from + utf8::ByteOffset(std::string_view(text_).substr(from), selLength_);
+    return {from, from + utf8::ByteOffset(std::string_view(text_).substr(from), selLength_)};
+}
+
+std::string TextBox::SelText() const {
+    const auto [from, to] = SelectionBytes();
     return text_.substr(from, to - from);
 }
 
 void TextBox::SetSelText(std::string_view text) {
-    const size_t from = utf8::ByteOffset(text_, selStart_);
-    const size_t to = from + utf8::ByteOffset(std::string_view(text_).substr(from), selLength_);
+    const auto [from, to] = SelectionBytes();
     std::string updated = text_.substr(0, from);
     updated += text;
     updated += std::string_view(text_).substr(to);

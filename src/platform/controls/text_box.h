@@ -17,6 +17,8 @@
 
 #include <string_view>
 
+#include <utility>
+
 #include "platform/controls/control.h"
 
 namespace trovane {
@@ -58,6 +60,8 @@ class TextBox : public Control {
 
   private:
     void SetSelection(int32_t start, int32_t length);
+    // The selection as byte offsets [from, to) into the UTF-8 text.
+    std::pair<size_t, size_t> SelectionBytes() const;
     // Characters that may still be added in place of the selection; -1 without a limit.
     int32_t Room() const;
     std::string text_;
