@@ -15,20 +15,7 @@
 // handle, and a member table: members registered there answer late-bound before the form's own
 // properties and controls.
 //
-// A panel is written like this:
-//
-//     class Counter : public Panel {
-//       public:
-//         Counter() : Panel("Counter"), lblCount(Add<Label>("lblCount")) {
-//             Members().Method("Init", [this](std::span<Variant>) { return Init(); });
-//         }
-//         Variant Init() {
-//             Traced("Init", [this] { SetUpControls(); ShowCount(); return true; }, OnFailure::Raise);
-//             return Variant();
-//         }
-//         void ShowCount() { lblCount.SetCaption(ToString(RunVexlCmd("#return ABC:CO"))); }
-//         Label& lblCount;
-//     };
+// docs/architecture.md ("Writing a panel") shows a whole panel written on this base.
 
 #include <cstdint>
 #include <functional>
