@@ -15,18 +15,14 @@ const char* const kRead =
 struct Session {
     int exitCode = 0;
     std::string out;
-    std::string err;
 };
 
 Session RunSession(const std::vector<std::string>& commands, const std::string& input = "",
                    const std::string& scenario = "") {
     std::istringstream in(input);
     std::ostringstream out, err;
-    Session session;
-    session.exitCode = RunConsole(scenario, commands, in, out, err, false);
-    session.out = out.str();
-    session.err = err.str();
-    return session;
+    const int exitCode = RunConsole(scenario, commands, in, out, err, false);
+    return {exitCode, out.str()};
 }
 
 TEST(ConsoleTest, BlockingReadShowsSixValuesAndTheWriteShowsInTheSameRun) {
@@ -39,22 +35,21 @@ TEST(ConsoleTest, BlockingReadShowsSixValuesAndTheWriteShowsInTheSameRun) {
     EXPECT_EQ(session.out, "(0,0,2,0,0,0)\n(0,1,0,0,0,0)\n(0,1,0,0,0,0)\n");
 }
 
-TEST(ConsoleTest, FailedCommandPrintsItsStatusAndName) {
+TEST(ConsoleTest, FailedCommandPrintsItsStatusAndNameAndInputIsReadByLine) {
     const Session session = RunSession({"#return do(BGU_BLOCK:C", "#return 10"});
     EXPECT_EQ(session.exitCode, 1);
     EXPECT_EQ(session.out, "!status 2001 VEXL_SYNTAX_ERROR\n10\n");
     EXPECT_EQ(RunSession({"@x=\"ABC\"\n#return %x + \"D\""}).out, "\"ABCD\"\n") << "one command, two lines";
-}
-
-TEST(ConsoleTest, StandardInputIsReadLineByLineWithoutCommands) {
-    const Session session = RunSession({}, "#SET ABC:PCL10=5\n\n#return ABC:PCL10\r\n#return ABC:PCO10\n");
-    EXPECT_EQ(session.out, "<EMPTY>\n5\n1\n");
+    // Without commands, standard input is read line by line.
+    EXPECT_EQ(RunSession({}, "#SET ABC:PCL10=5\n\n#return ABC:PCL10\r\n#return ABC:PCO10\n").out,
+              "<EMPTY>\n5\n1\n");
 }
 
 TEST(ConsoleTest, ScenarioTextReplacesTheDemo) {
-    const Session session = RunSession(
-        {"#return Q:PTX1"}, "", R"({"objects":[{"name":"Q","signals":[{"index":1,"type":3,"text":"x"}]}]})");
-    EXPECT_EQ(session.out, "\"x\"\n");
+    EXPECT_EQ(RunSession({"#return Q:PTX1"}, "",
+                         R"({"objects":[{"name":"Q","signals":[{"index":1,"type":3,"text":"x"}]}]})")
+                  .out,
+              "\"x\"\n");
     EXPECT_EQ(RunSession({"#return 1"}, "", "{").exitCode, 2);
 }
 

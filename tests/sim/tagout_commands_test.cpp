@@ -15,26 +15,29 @@ class TagoutCommandsTest : public DemoServerTest {
     Variant Tagout(const std::string& arguments) {
         return Run("#return do(OVGR_TAGOUT:C, " + arguments + ")");
     }
+    Variant Read(const std::string& quotedKey, const std::string& attribute) {
+        return Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey + ",\"" + attribute +
+                      "\"");
+    }
 };
 
 TEST_F(TagoutCommandsTest, ClassQueriesAnswerWhatThePanelChecks) {
+    // clang-format off
     const std::pair<const char*, const char*> types[] = {
-        {"\"GET_CLASS\"", "Variant()"},
-        {"\"GET_CLASS_ACTIONMETHODS\"", "String()"},
-        {"\"GET_CLASS_ATTRIBUTES\",\"NAMES\"", "String()"},
-        {"\"GET_CLASS_ATTRIBUTES\",\"TITLES\"", "String()"},
-        {"\"GET_CLASS_ATTRIBUTES\",\"VISIBLE\"", "Long()"},
-        {"\"GET_CLASS_ATTRIBUTES\",\"ENABLED\"", "Long()"},
+        {"\"GET_CLASS\"", "Variant()"}, {"\"GET_CLASS_ACTIONMETHODS\"", "String()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"NAMES\"", "String()"}, {"\"GET_CLASS_ATTRIBUTES\",\"TITLES\"", "String()"},
+        {"\"GET_CLASS_ATTRIBUTES\",\"VISIBLE\"", "Long()"}, {"\"GET_CLASS_ATTRIBUTES\",\"ENABLED\"", "Long()"},
         {"\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"PRIORITY\",\"TITLES\"", "String()"}};
+    // clang-format on
     for (const auto& [query, type] : types) EXPECT_EQ(TypeName(Tagout(query)), type) << query;
     EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTES\",\"NAMES\"").AsArray().At(1), Variant("OWNER"));
     EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_PROPERTY\",\"TAB_STRIP\",\"TITLES\"").AsArray().Size(), 2u);
+    // clang-format off
     const std::pair<const char*, Variant> properties[] = {
-        {"\"PRIORITY\",\"TYPE\"", Variant("SELECTOR")},
-        {"\"PRIORITY\",\"VALUE\"", Variant("Medium")},
-        {"\"COMMENT\",\"MAX_LENGTH\"", Variant(int32_t{200})},
-        {"\"ORIGIN\",\"TAB_INDEX\"", Variant(int32_t{3})},
+        {"\"PRIORITY\",\"TYPE\"", Variant("SELECTOR")}, {"\"PRIORITY\",\"VALUE\"", Variant("Medium")},
+        {"\"COMMENT\",\"MAX_LENGTH\"", Variant(int32_t{200})}, {"\"ORIGIN\",\"TAB_INDEX\"", Variant(int32_t{3})},
         {"\"NOPE\",\"TYPE\"", Variant(tagout_error::kUnknownAttribute)}};
+    // clang-format on
     for (const auto& [arguments, expected] : properties)
         EXPECT_EQ(Tagout(std::string("\"GET_CLASS_ATTRIBUTE_PROPERTY\",") + arguments), expected)
             << arguments;
@@ -46,10 +49,8 @@ TEST_F(TagoutCommandsTest, ExistingTagoutIsCountedNamedAndRead) {
     const Variant names = Tagout("\"GET_TAGOUT_NAMES\", " + object);
     ASSERT_EQ(TypeName(names), "String()");
     EXPECT_EQ(names.AsArray().At(1), Variant("ID1511202603344512"));
-    EXPECT_EQ(Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + ",\"ID1511202603344512\",\"OWNER\""),
-              Variant("operator1"));
-    EXPECT_EQ(Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + ",\"NOPE\",\"OWNER\""),
-              Variant(tagout_error::kUnknownTagout));
+    EXPECT_EQ(Read("\"ID1511202603344512\"", "OWNER"), Variant("operator1"));
+    EXPECT_EQ(Read("\"NOPE\"", "OWNER"), Variant(tagout_error::kUnknownTagout));
 }
 
 TEST_F(TagoutCommandsTest, TagoutIsAddedEditedListedRemovedAndDeleted) {
@@ -63,12 +64,9 @@ TEST_F(TagoutCommandsTest, TagoutIsAddedEditedListedRemovedAndDeleted) {
     Tagout("\"EDIT_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey +
            ",\"TAG_TEXT\",\"Don''t \"\"close\"\"\"");
     EXPECT_EQ(Tagout("\"GET_NACTIVE_TAGOUTS\", " + object), Variant(int32_t{2}));
-    EXPECT_EQ(Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey + ",\"OWNER\""),
-              Variant("operator2"));
-    EXPECT_EQ(Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey + ",\"TAG_TEXT\""),
-              Variant("Don't \"close\""));
-    EXPECT_EQ(Tagout("\"READ_TAGOUT_ATTRIBUTE_VALUE\", " + object + "," + quotedKey + ",\"PRIORITY\""),
-              Variant("Medium"));
+    EXPECT_EQ(Read(quotedKey, "OWNER"), Variant("operator2"));
+    EXPECT_EQ(Read(quotedKey, "TAG_TEXT"), Variant("Don't \"close\""));
+    EXPECT_EQ(Read(quotedKey, "PRIORITY"), Variant("Medium"));
 
     Tagout("\"REMOVE_TAGOUT\", " + object + "," + quotedKey);
     EXPECT_EQ(Tagout("\"GET_NACTIVE_TAGOUTS\", " + object), Variant(int32_t{1}));
@@ -88,9 +86,7 @@ TEST_F(TagoutCommandsTest, EditingRefusesTooLongValuesAndUnknownAttributes) {
 
 TEST_F(TagoutCommandsTest, EventsFollowTheLastTagout) {
     Tagout("\"EVENT_FUNCTIONS\", \"SET_PRIORITY\" ,(\"ABC\",10)");
-    Tagout(
-        "\"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Work on feeder "
-        "cable\"");
+    Tagout("\"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Work on feeder cable\"");
     EXPECT_EQ(Object("ABC", 10).tagouts.priority, "High");
     EXPECT_EQ(Object("ABC", 10).tagouts.tagText, "Work on feeder cable");
     Tagout("\"EVENT_FUNCTIONS\", \"RESET_PRIORITY\" ,(\"ABC\",10)");
