@@ -23,14 +23,10 @@ TEST_F(AlarmsSelectionTest, ClickHandsTheSignalToTheBlockingPanel) {
     EXPECT_TRUE(panel->DisableUpdate);
 }
 
-TEST_F(AlarmsSelectionTest, NoRememberedSignalSwitchesSingleBlockingOff) {
+TEST_F(AlarmsSelectionTest, RefreshReselectsTheRememberedSignalWithoutFreezingOrSwitchesSingleBlockingOff) {
     panel->RefreshAlarms();
     EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
     EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
-}
-
-TEST_F(AlarmsSelectionTest, RefreshReselectsTheRememberedSignalWithoutFreezing) {
-    panel->RefreshAlarms();
     panel->ListView1.ClickItem(3);
     panel->DisableUpdate = false;
     SetSignals({Signal("ABC", 9, "NORMAL"), Signal("ABC", 12, "BLOCKED")});

@@ -6,33 +6,14 @@
 namespace trovane {
 namespace {
 
-TEST(BlockingCommands, ReadCarriesObjectEmptyVectorAndMode) {
-    EXPECT_EQ(GetBlockingStateCommand("ABC", 10, kApplyToSelected),
-              R"(#return do(BGU_BLOCK:C, "GET_BLOCKING_STATE", ("ABC",10), Vector(), "APPLY_TO_SELECTED"))");
-}
-
-TEST(BlockingCommands, WriteHasNoBlanksInsideGroups) {
-    EXPECT_EQ(SetBlockingStateCommand("ABC", 10, {1, 1, 1, 1, 1, 1}, kApplyToAll),
-              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (1,1,1,1,1,1), "APPLY_TO_ALL"))");
-    EXPECT_EQ(SetBlockingStateCommand("ABC", 10, {0, 1, 0, 2, 0, 0}, kApplyToAll),
-              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (0,1,0,2,0,0), "APPLY_TO_ALL"))");
-}
-
-TEST(BlockingCommands, QualificationHasNoApplyToArgument) {
-    EXPECT_EQ(GetEnabledBlockingsCommand("ABC", 10),
-              R"(#return do(BGU_BLOCK:C, "GET_ENABLED_BLOCKINGS", ("ABC",10)))");
-}
-
-TEST(BlockingCommands, NegativeIndexKeepsItsSign) {
-    EXPECT_EQ(GetEnabledBlockingsCommand("ABC", -1),
-              R"(#return do(BGU_BLOCK:C, "GET_ENABLED_BLOCKINGS", ("ABC",-1)))");
-}
-
-TEST(BlockingCommands, OnlyACheckedEnabledOptionSelectsTheSignal) {
+// The read, the plain write and the qualification are checked through the panel; here the grey
+// value in a write and which option states select the signal.
+TEST(BlockingCommands, WriteKeepsGreyAndOnlyACheckedEnabledOptionSelectsTheSignal) {
+    EXPECT_EQ(SetBlockingStateCommand("ABC", -1, {0, 1, 0, 2, 0, 0}, kApplyToAll),
+              R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",-1), (0,1,0,2,0,0), "APPLY_TO_ALL"))");
     EXPECT_EQ(ApplyToMode(1, true), "APPLY_TO_SELECTED");
-    EXPECT_EQ(ApplyToMode(1, false), "APPLY_TO_ALL");
-    EXPECT_EQ(ApplyToMode(2, true), "APPLY_TO_ALL");
-    EXPECT_EQ(ApplyToMode(0, true), "APPLY_TO_ALL");
+    for (const auto& [value, enabled] : {std::pair{1, false}, std::pair{2, true}, std::pair{0, true}})
+        EXPECT_EQ(ApplyToMode(value, enabled), "APPLY_TO_ALL") << value << enabled;
 }
 
 }  // namespace

@@ -27,22 +27,12 @@ TEST_F(BlockingPanelTest, InitQualifiesThenReadsAndShowsTheServerState) {
 TEST_F(BlockingPanelTest, RefreshTracesEveryKindWithItsOwnWord) {
     TraceCapture trace;
     panel->RefreshStates();
-    const std::vector<std::string> expected{"-> Blocking.RefreshStates",
-                                            "   Blocking.RefreshStates: Getting blockings...",
-                                            "   Blocking.RefreshStates: Getting blockings done.",
-                                            "   Blocking.RefreshStates: Setting update...",
-                                            "   Blocking.RefreshStates: Setting update done.",
-                                            "   Blocking.RefreshStates: Setting Control...",
-                                            "   Blocking.RefreshStates: Setting Control done.",
-                                            "   Blocking.RefreshStates: Setting Alarm...",
-                                            "   Blocking.RefreshStates: Setting Alarm done.",
-                                            "   Blocking.RefreshStates: Setting History...",
-                                            "   Blocking.RefreshStates: Setting History done.",
-                                            "   Blocking.RefreshStates: Setting Printout...",
-                                            "   Blocking.RefreshStates: Setting Printout done.",
-                                            "   Blocking.RefreshStates: Setting Reprocessing...",
-                                            "   Blocking.RefreshStates: Setting Reprocessing done.",
-                                            "<- Blocking.RefreshStates"};
+    std::vector<std::string> expected{"-> Blocking.RefreshStates"};
+    for (const char* step : {"Getting blockings", "Setting update", "Setting Control", "Setting Alarm",
+                             "Setting History", "Setting Printout", "Setting Reprocessing"})
+        for (const char* end : {"...", " done."})
+            expected.push_back(std::string("   Blocking.RefreshStates: ") + step + end);
+    expected.push_back("<- Blocking.RefreshStates");
     std::vector<std::string> panelLines;
     for (const std::string& line : trace.Lines())
         if (line.find("Blocking.") != std::string::npos) panelLines.push_back(line);
@@ -67,20 +57,13 @@ TEST_F(BlockingPanelTest, MissingRightsDisableEveryKindAndTheOption) {
     EXPECT_NE(LastCommand().find("\"APPLY_TO_ALL\")"), std::string::npos);
 }
 
-TEST_F(BlockingPanelTest, OperatorClickEntersEditedState) {
-    panel->Init();
-    Check(2).Click();
-    EXPECT_TRUE(panel->btnOK.Enabled());
-    EXPECT_TRUE(panel->btnCancel.Enabled());
-    EXPECT_FALSE(panel->btnRefresh.Enabled());
-    EXPECT_TRUE(panel->kindChanged[1]);
-    EXPECT_FALSE(panel->kindChanged[0]);
-}
-
-TEST_F(BlockingPanelTest, OkWritesAllSixValuesAndReturnsToClean) {
+TEST_F(BlockingPanelTest, OperatorClickEntersEditedStateAndOkWritesAllSixValuesAndReturnsToClean) {
     panel->Init();
     const size_t sentBefore = Commands().size();
     Check(2).Click();
+    EXPECT_TRUE(panel->btnOK.Enabled() && panel->btnCancel.Enabled() && !panel->btnRefresh.Enabled());
+    EXPECT_TRUE(panel->kindChanged[1]);
+    EXPECT_FALSE(panel->kindChanged[0]);
     panel->btnOK.Click();
 
     ASSERT_EQ(Commands().size(), sentBefore + 1);
@@ -186,7 +169,7 @@ TEST_F(BlockingPanelTest, CheckingTheOptionReadsTheSelectedSignal) {
         R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (0,0,0,0,1,0), "APPLY_TO_SELECTED"))");
 }
 
-TEST_F(BlockingPanelTest, WasCheckedRoundTrip) {
+TEST_F(BlockingPanelTest, DisablingTheOptionRemembersACheckAndRestoresItButAnUncheckedOneOnlyChangesEnabled) {
     panel->chkBlockSelectedSignal.SetValue(1);
     panel->SetSingleBlocking(false);
     EXPECT_EQ(panel->chkBlockSelectedSignal.Value(), 0);
@@ -199,17 +182,18 @@ TEST_F(BlockingPanelTest, WasCheckedRoundTrip) {
     EXPECT_EQ(panel->chkBlockSelectedSignal.Tag(), "");
     EXPECT_TRUE(panel->chkBlockSelectedSignal.Enabled());
     EXPECT_NE(LastCommand().find("\"APPLY_TO_SELECTED\")"), std::string::npos);
-}
 
-TEST_F(BlockingPanelTest, UncheckedOptionOnlyChangesEnabled) {
-    panel->SetSingleBlocking(false);
-    EXPECT_FALSE(panel->chkBlockSelectedSignal.Enabled());
-    EXPECT_FALSE(panel->lblBlockSelectedSignal.Enabled());
-    panel->SetSingleBlocking(true);
-    EXPECT_TRUE(panel->chkBlockSelectedSignal.Enabled());
-    EXPECT_EQ(panel->chkBlockSelectedSignal.Value(), 0);
-    EXPECT_EQ(panel->chkBlockSelectedSignal.Tag(), "");
-    EXPECT_TRUE(Commands().empty());
+    auto fresh = std::make_shared<Blocking>();  // unchecked: no reads, nothing remembered
+    fresh->SetParent(container->AsVariant());
+    const size_t sent = Commands().size();
+    fresh->SetSingleBlocking(false);
+    EXPECT_FALSE(fresh->chkBlockSelectedSignal.Enabled());
+    EXPECT_FALSE(fresh->lblBlockSelectedSignal.Enabled());
+    fresh->SetSingleBlocking(true);
+    EXPECT_TRUE(fresh->chkBlockSelectedSignal.Enabled());
+    EXPECT_EQ(fresh->chkBlockSelectedSignal.Value(), 0);
+    EXPECT_EQ(fresh->chkBlockSelectedSignal.Tag(), "");
+    EXPECT_EQ(Commands().size(), sent);
 }
 
 }  // namespace
