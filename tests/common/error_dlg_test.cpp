@@ -34,17 +34,21 @@ class ErrorDlgTest : public ServicesTest {
     }
 };
 
-TEST_F(ErrorDlgTest, LoadingSetsCaptionsTitleTextAndCountdown) {
+TEST_F(ErrorDlgTest, LoadingSetsCaptionsTextAndCountdownAndOkUnloadsForTheNextErrorToReload) {
     ErrorDlg& dialog = ShowWithTimeout("90");
     EXPECT_TRUE(dialog.Visible());
-    EXPECT_EQ(dialog.Caption(), "Trovane Error");
-    EXPECT_EQ(dialog.Command1.Caption(), "OK");
-    EXPECT_EQ(dialog.Label1.Caption(), "Command failed");
-    EXPECT_EQ(dialog.timeoutSeconds, 90);
+    EXPECT_EQ(dialog.Caption() + "|" + dialog.Command1.Caption() + "|" + dialog.Label1.Caption(),
+              "Trovane Error|OK|Command failed");
     EXPECT_EQ(dialog.remainingTicks, 89);
-    EXPECT_TRUE(dialog.Timer1.IsRunning());
     EXPECT_EQ(dialog.Timer1.Interval(), 1000);
     EXPECT_EQ(TicksUntilClosed(dialog, 200), 90);
+    functions->ShowError("Second");
+    dialog.Command1.Click();
+    EXPECT_FALSE(dialog.Loaded());
+    functions->ShowError("Third");
+    EXPECT_EQ(ExistingErrorDlg(), &dialog);
+    EXPECT_EQ(dialog.Label1.Caption(), "Third");
+    EXPECT_EQ(dialog.remainingTicks, 89);
 }
 
 TEST_F(ErrorDlgTest, CaptionsComeFromTheLatestCallersReplacementTexts) {
@@ -73,18 +77,6 @@ TEST_F(ErrorDlgTest, CountdownEndsOnTimeUnlessTheOperatorIsActive) {
     EXPECT_EQ(TicksUntilClosed(dialog, 10), 3);
 }
 
-TEST_F(ErrorDlgTest, OkUnloadsAndTheNextErrorLoadsTheSameDialogAgain) {
-    ErrorDlg& dialog = ShowWithTimeout("90");
-    dialog.Command1.Click();
-    EXPECT_FALSE(dialog.Loaded());
-    functions->ShowError("Second");
-    EXPECT_EQ(ExistingErrorDlg(), &dialog);
-    EXPECT_EQ(dialog.Label1.Caption(), "Second");
-    EXPECT_EQ(dialog.remainingTicks, 89);
-    functions->MakeCleanup();
-    EXPECT_EQ(ExistingErrorDlg(), nullptr);
-}
-
 using Kind = HeadlessPresenter::Record::Kind;
 
 TEST_F(ErrorDlgTest, ShowErrorPresentsTheDialogWithoutOwnerAndItsUnloadDismissesIt) {
@@ -94,10 +86,8 @@ TEST_F(ErrorDlgTest, ShowErrorPresentsTheDialogWithoutOwnerAndItsUnloadDismisses
     const HeadlessPresenter::Record& shown = presenter->Records()[0];
     EXPECT_EQ(shown.kind, Kind::Present);
     EXPECT_EQ(shown.form, "ErrorDlg");
-    EXPECT_EQ(shown.owner, 0);
-    EXPECT_FALSE(shown.modal);
+    EXPECT_EQ(std::make_pair(shown.owner, shown.modal), std::make_pair(0, false));
     EXPECT_EQ(dialog.Hwnd(), shown.hwnd);
-    EXPECT_TRUE(dialog.Visible());
     // The topmost request names no window, whatever the dialog's own handle is.
     ASSERT_EQ(windows->PositionRequests().size(), 1u);
     EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
@@ -111,10 +101,11 @@ TEST_F(ErrorDlgTest, ShowErrorPresentsTheDialogWithoutOwnerAndItsUnloadDismisses
     EXPECT_NE(dialog.Hwnd(), 0);
     functions->MakeCleanup();
     EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
+    EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
 // ShowError2: presented (and so loaded, with its handle), then ordered, then shown.
-TEST_F(ErrorDlgTest, ShowError2OrdersThePresentedDialogBeforeShowingIt) {
+TEST_F(ErrorDlgTest, ShowError2OrdersThePresentedDialogBeforeShowingItOwnedOnlyWithTheOwnerFlag) {
     ErrorDlg& dialog = SharedErrorDlg(platform);
     std::vector<std::string> steps;
     dialog.onLoad.Connect([&] {
@@ -131,15 +122,13 @@ TEST_F(ErrorDlgTest, ShowError2OrdersThePresentedDialogBeforeShowingIt) {
     EXPECT_EQ(presenter->Records().back().owner, 0x100);
     EXPECT_EQ(windows->OwnerOf(dialog.Hwnd()), 0x100);
     EXPECT_TRUE(windows->IsTopmost(dialog.Hwnd()));
-}
 
-TEST_F(ErrorDlgTest, WithoutTheOwnerFlagShowError2LeavesTheDialogUnownedButTopmost) {
+    dialog.Unload();  // without the owner flag: unowned, but still topmost
     functions->SetWindowOwner(false);
     functions->ShowError2("x", 0x100);
-    const int32_t hwnd = ExistingErrorDlg()->Hwnd();
     EXPECT_EQ(presenter->Records().back().owner, 0);
-    EXPECT_EQ(windows->OwnerOf(hwnd), 0);
-    EXPECT_TRUE(windows->IsTopmost(hwnd));
+    EXPECT_EQ(windows->OwnerOf(dialog.Hwnd()), 0);
+    EXPECT_TRUE(windows->IsTopmost(dialog.Hwnd()));
 }
 
 TEST(MBIconTest, DefaultsToTheInformationIconAndSavesOnlyChanges) {

@@ -50,10 +50,10 @@ class ServicesTest : public ::testing::Test {
     // Start information naming the fake connection, application 1, language EN, user "op".
     Variant StartInfo(std::vector<std::pair<std::string, Variant>> extra = {}) {
         Variant list = functions->EmptyList();
-        functions->AddListAttribute(list, "APP_NR", int16_t{1});
-        functions->AddListAttribute(list, "LANGUAGE", "EN");
-        functions->AddListAttribute(list, "USER_NAME", "op");
-        functions->AddListAttribute(list, "USED_OPC_SERVER", connection->AsVariant());
+        extra.insert(extra.begin(), {{"APP_NR", int16_t{1}},
+                                     {"LANGUAGE", "EN"},
+                                     {"USER_NAME", "op"},
+                                     {"USED_OPC_SERVER", connection->AsVariant()}});
         for (auto& [name, value] : extra) functions->AddListAttribute(list, name, value);
         return list;
     }
@@ -76,14 +76,11 @@ class ServicesTest : public ::testing::Test {
     std::shared_ptr<RecordingColorTool> colorTool = std::make_shared<RecordingColorTool>();
     std::shared_ptr<FakeConnection> connection = std::make_shared<FakeConnection>();
     std::shared_ptr<HeadlessPresenter> presenter = std::make_shared<HeadlessPresenter>();
-    PlatformServices platform{.messageBox = messages,
-                              .clock = clock,
-                              .locale = std::make_shared<DefaultLocale>(),
-                              .files = files,
-                              .windows = windows,
-                              .resources = nullptr,
-                              .colorTool = colorTool,
+    // clang-format off
+    PlatformServices platform{.messageBox = messages, .clock = clock, .locale = std::make_shared<DefaultLocale>(),
+                              .files = files, .windows = windows, .resources = nullptr, .colorTool = colorTool,
                               .presenter = presenter};
+    // clang-format on
     std::unique_ptr<CommonFunctions> functions;
 };
 
