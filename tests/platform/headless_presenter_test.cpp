@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <string>
+#include <tuple>
 #include <vector>
 
 #include "platform/controls/command_button.h"
@@ -46,58 +48,42 @@ TEST(HeadlessPresenterTest, PresentGivesAHandleBeforeLoadingAndDismissTakesItBac
     presenter.Present(*dialog, 0, false);
     EXPECT_NE(dialog->Hwnd(), hwnd) << "a new window has a new handle";
 
-    const std::vector<HeadlessPresenter::Record> expected{
-        {Kind::Present, "frmComment", 0x100, true, hwnd},
-        {Kind::Present, "frmComment", 0, false, hwnd},
-        {Kind::Dismiss, "frmComment", 0, false, hwnd},
-        {Kind::Present, "frmComment", 0, false, dialog->Hwnd()},
-    };
-    ASSERT_EQ(presenter.Records().size(), expected.size());
-    for (size_t i = 0; i < expected.size(); ++i) {
-        const auto& record = presenter.Records()[i];
-        EXPECT_EQ(record.kind, expected[i].kind) << i;
-        EXPECT_EQ(record.form, expected[i].form) << i;
-        EXPECT_EQ(record.owner, expected[i].owner) << i;
-        EXPECT_EQ(record.modal, expected[i].modal) << i;
-        EXPECT_EQ(record.hwnd, expected[i].hwnd) << i;
-    }
+    std::vector<std::tuple<Kind, std::string, int32_t, bool, int32_t>> records;
+    for (const auto& r : presenter.Records()) records.emplace_back(r.kind, r.form, r.owner, r.modal, r.hwnd);
+    EXPECT_EQ(records, (decltype(records){{Kind::Present, "frmComment", 0x100, true, hwnd},
+                                          {Kind::Present, "frmComment", 0, false, hwnd},
+                                          {Kind::Dismiss, "frmComment", 0, false, hwnd},
+                                          {Kind::Present, "frmComment", 0, false, dialog->Hwnd()}}));
 }
 
-TEST(HeadlessPresenterTest, UnloadingFromItsOwnClickDismissesUnlessAHandlerCancels) {
-    HeadlessPresenter presenter;
-    auto dialog = MakeDialog("frmComment");
-    presenter.Present(*dialog, 0, false);
-    dialog->Show();
-    dialog->Get<CommandButton>("btnOK").Click();
-    EXPECT_FALSE(presenter.IsPresented(*dialog));
-    EXPECT_EQ(dialog->Hwnd(), 0);
-    EXPECT_EQ(presenter.Records().back().kind, Kind::Dismiss);
-
-    auto keeper = MakeDialog("frmKeeper");
-    keeper->onUnload.Connect([](bool& cancel) { cancel = true; });
-    presenter.Present(*keeper, 0, false);
-    keeper->Get<CommandButton>("btnOK").Click();
-    EXPECT_TRUE(presenter.IsPresented(*keeper));
-    EXPECT_TRUE(keeper->Loaded());
-}
-
-TEST(HeadlessPresenterTest, FormsAreNeitherKeptAliveNorConfusedWithOnesMadeLater) {
+// A dialog unloaded from its own click is dismissed, unless a handler cancels; forms are neither
+// kept alive by the presenter nor confused with ones made later at the same address.
+TEST(HeadlessPresenterTest, UnloadingFromItsOwnClickDismissesAndFormsAreNotKeptAlive) {
     HeadlessPresenter presenter;
     std::weak_ptr<Form> gone;
     {
-        auto dialog = MakeDialog("frmFirst");
+        auto dialog = MakeDialog("frmComment");
+        presenter.Present(*dialog, 0, false);
+        dialog->Show();
+        dialog->Get<CommandButton>("btnOK").Click();
+        EXPECT_FALSE(presenter.IsPresented(*dialog));
+        EXPECT_EQ(dialog->Hwnd(), 0);
+        EXPECT_EQ(presenter.Records().back().kind, Kind::Dismiss);
         presenter.Present(*dialog, 0, false);
         gone = dialog;
     }
     EXPECT_TRUE(gone.expired());
-    auto other = MakeDialog("frmSecond");
+    auto keeper = MakeDialog("frmKeeper");
+    EXPECT_FALSE(presenter.IsPresented(*keeper));
+    keeper->onUnload.Connect([](bool& cancel) { cancel = true; });
+    presenter.Present(*keeper, 0, false);
     auto third = MakeDialog("frmThird");
-    EXPECT_FALSE(presenter.IsPresented(*other));
-    presenter.Present(*other, 0, false);
     presenter.Present(*third, 0, false);
-    EXPECT_NE(other->Hwnd(), third->Hwnd());
+    EXPECT_NE(keeper->Hwnd(), third->Hwnd());
     presenter.Dismiss(*third);
-    EXPECT_TRUE(presenter.IsPresented(*other));
+    keeper->Get<CommandButton>("btnOK").Click();
+    EXPECT_TRUE(presenter.IsPresented(*keeper));
+    EXPECT_TRUE(keeper->Loaded());
 }
 
 }  // namespace

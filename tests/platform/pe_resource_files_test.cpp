@@ -22,11 +22,6 @@ namespace {
 
 const std::string kFilesDir = TROVANE_LANGUAGE_FILES_DIR;
 
-std::vector<uint8_t> ReadBytes(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
 class RealLanguageFile : public ::testing::TestWithParam<std::string> {
   protected:
     void SetUp() override {
@@ -63,11 +58,12 @@ TEST(TwoLanguageFile, LanguageComesFromTheFileNameAndFallsBackPerBlock) {
 #ifndef TROVANE_HAVE_LANGUAGE_FILES
     GTEST_SKIP() << "MinGW binutils missing";
 #endif
-    const auto bytes = ReadBytes(kFilesDir + "/multi/two_languages.dll");
+    std::ifstream in(kFilesDir + "/multi/two_languages.dll", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     ASSERT_FALSE(bytes.empty());
     auto files = std::make_shared<testing::MemoryFiles>();
     const auto Open = [&](const std::string& name) {
-        files->Put(name, std::string(bytes.begin(), bytes.end()));
+        files->Put(name, bytes);
         return PeResourceFiles(files).Open(name);
     };
     EXPECT_EQ(Open("C:\\texts\\DE\\Panels_DE.dll")->Load(101), "Öffnen");
@@ -84,18 +80,14 @@ TEST(TwoLanguageFile, LanguageComesFromTheFileNameAndFallsBackPerBlock) {
     EXPECT_EQ(german->Load(160), "Österreichisch");
 }
 
-TEST(PeResourceFiles, MissingOrUnreadableFileIsNull) {
+// A missing file or a directory opens as nothing; the installation directory is the executable's
+// until set.
+TEST(PeResourceFiles, MissingFilesAreNullAndTheInstallationDirectoryIsTheExecutables) {
     PeResourceFiles files;
     EXPECT_EQ(files.Open(kFilesDir + "/nowhere/Trovane2_EN.dll"), nullptr);
-    EXPECT_EQ(files.Open(std::string(TROVANE_LANGUAGE_FILES_DIR)), nullptr);
-}
-
-TEST(PeResourceFiles, InstallationDirectoryDefaultsToExecutableAndCanBeSet) {
-    PeResourceFiles files;
-    const std::string directory = files.InstallationDirectory();
-    EXPECT_FALSE(directory.empty());
-    EXPECT_NE(directory.back(), '/');
-    EXPECT_TRUE(std::ifstream(directory + "/platform_resources_test").good());
+    EXPECT_EQ(files.Open(kFilesDir), nullptr);
+    EXPECT_NE(files.InstallationDirectory().back(), '/');
+    EXPECT_TRUE(std::ifstream(files.InstallationDirectory() + "/platform_resources_test").good());
     files.SetInstallationDirectory("/opt/trovane");
     EXPECT_EQ(files.InstallationDirectory(), "/opt/trovane");
 }

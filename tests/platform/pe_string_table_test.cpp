@@ -52,12 +52,6 @@ TEST(PeStringTable, ReadsEveryLayoutTheFormatAllows) {
     }
 }
 
-TEST(PeStringTable, RejectsDataBeyondSizeOfRawData) {
-    TestImageOptions options;
-    options.rawDataShortBy = 4;
-    EXPECT_EQ(Read(TestImageWriter::Build({Block7(kEnglish, u"Open")}, options)), nullptr);
-}
-
 TEST(PeStringTable, PrefersPerBlockExactThenPrimaryLanguageThenUsEnglishThenAny) {
     std::vector<std::u16string> englishOnly(16);
     englishOnly[8] = u"English only";  // id 120, block 8
@@ -81,37 +75,37 @@ TEST(PeStringTable, EmptyAndMissingTextsAreAbsentAndBrokenTextsReplaced) {
     for (int32_t id : {100, 300, -1, 0x10000 + 101}) EXPECT_EQ(table->Load(id), std::nullopt) << id;
 }
 
-TEST(PeStringTable, ReadsShortBlockAndRejectsOverrunningLength) {
+TEST(PeStringTable, ReadsAShortBlockAndAnImageWithoutResources) {
     const auto shortBlock = Read(TestImageWriter::Build({{7, kEnglish, {u"Ninety-six", u"Ninety-seven"}}}));
     ASSERT_NE(shortBlock, nullptr);
     EXPECT_EQ(shortBlock->Load(97), "Ninety-seven");
     EXPECT_EQ(shortBlock->Load(98), std::nullopt);
-
-    auto image = TestImageWriter::Build({{7, kEnglish, {u"Ninety-six"}}});
-    // The block's single length prefix sits right after the last data entry; make it claim more.
-    const auto text = std::u16string(u"Ninety-six");
-    for (size_t i = 0; i + 2 < image.size(); ++i)
-        if (image[i] == text.size() && image[i + 1] == 0 && image[i + 2] == 'N') image[i] = 0xFF;
-    EXPECT_EQ(Read(image), nullptr);
-}
-
-TEST(PeStringTable, ImageWithoutResourcesIsEmptyAndWhatIsNotAnImageIsRejected) {
     const auto empty = Read(TestImageWriter::Build({}));
     ASSERT_NE(empty, nullptr);
     EXPECT_EQ(empty->Load(101), std::nullopt);
-    EXPECT_EQ(Read({}), nullptr);
-    EXPECT_EQ(Read({'M', 'Z'}), nullptr);
-    const std::string text = "STRINGTABLE BEGIN 101 \"Open\" END";
-    EXPECT_EQ(Read(std::vector<uint8_t>(text.begin(), text.end())), nullptr);
 }
 
-TEST(PeStringTable, EveryTruncationIsRejected) {
+// What is not an image, every truncation, data past SizeOfRawData and a length prefix that claims
+// more than its block holds are all rejected.
+TEST(PeStringTable, RejectsWhatIsNotAnImageOrReachesBeyondItsBounds) {
+    const std::string text = "STRINGTABLE BEGIN 101 \"Open\" END";
+    for (const std::vector<uint8_t>& bytes : {std::vector<uint8_t>{}, std::vector<uint8_t>{'M', 'Z'},
+                                              std::vector<uint8_t>(text.begin(), text.end())})
+        EXPECT_EQ(Read(bytes), nullptr) << bytes.size();
     const auto image = TestImageWriter::Build({Block7(kEnglish, u"Open"), Block7(kGerman, u"Öffnen")});
     ASSERT_NE(Read(image), nullptr);
     // The last bytes lie after the section's raw data; cutting into the section must reject the file.
     for (size_t length = 0; length + 16 < image.size(); ++length)
         EXPECT_EQ(Read({image.begin(), image.begin() + static_cast<std::ptrdiff_t>(length)}), nullptr)
             << length;
+    TestImageOptions options;
+    options.rawDataShortBy = 4;
+    EXPECT_EQ(Read(TestImageWriter::Build({Block7(kEnglish, u"Open")}, options)), nullptr);
+    auto overrun = TestImageWriter::Build({{7, kEnglish, {u"Ninety-six"}}});
+    // The block's single length prefix sits right after the last data entry; make it claim more.
+    for (size_t i = 0; i + 2 < overrun.size(); ++i)
+        if (overrun[i] == 10 && overrun[i + 1] == 0 && overrun[i + 2] == 'N') overrun[i] = 0xFF;
+    EXPECT_EQ(Read(overrun), nullptr);
 }
 
 }  // namespace

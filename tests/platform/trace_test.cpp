@@ -12,13 +12,13 @@
 namespace trovane {
 namespace {
 
-std::string ReadFile(const std::filesystem::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
-TEST(TraceToFile, EnvironmentRoutesEveryCallToOneVerbatimLineAppendedToTheFile) {
+// TROVANE_TRACE names a file to which every call appends one verbatim line; an unset, empty or
+// unwritable target gives no sink, and without a sink tracing does nothing.
+TEST(Trace, EnvironmentRoutesEveryCallToOneVerbatimLineAppendedToTheFile) {
+    for (const char* target : {"", "/nonexistent-directory/trace.log"}) {
+        ::setenv("TROVANE_TRACE", target, 1);
+        EXPECT_EQ(TraceSinkFromEnvironment(), nullptr) << target;
+    }
     const auto file =
         std::filesystem::temp_directory_path() / ("trovane_trace_" + std::to_string(::getpid()));
     std::ofstream(file) << "earlier\n";
@@ -27,27 +27,19 @@ TEST(TraceToFile, EnvironmentRoutesEveryCallToOneVerbatimLineAppendedToTheFile) 
     DebugInfo("RunVexlCmd: (1) Running command \"#return do(BGU_BLOCK:C, \"X\")\"");
     DebugInfo("   progress with trailing blanks  ");
     DebugInfo("");
-    SetTraceSink(previous);  // closes the file
+    SetTraceSink(nullptr);  // closes the file
+    DebugInfo("discarded");
     ::unsetenv("TROVANE_TRACE");
-    const std::string written = ReadFile(file);
+    EXPECT_EQ(TraceSinkFromEnvironment(), nullptr);
+    SetTraceSink(previous);
+    std::ostringstream written;
+    written << std::ifstream(file, std::ios::binary).rdbuf();
     std::filesystem::remove(file);
-    EXPECT_EQ(written,
+    EXPECT_EQ(written.str(),
               "earlier\n"
               "RunVexlCmd: (1) Running command \"#return do(BGU_BLOCK:C, \"X\")\"\n"
               "   progress with trailing blanks  \n"
               "\n");
-}
-
-TEST(TraceRouting, UnsetOrUnwritableTargetGivesNoSinkAndNoSinkNoEffect) {
-    ::unsetenv("TROVANE_TRACE");
-    EXPECT_EQ(TraceSinkFromEnvironment(), nullptr);
-    ::setenv("TROVANE_TRACE", "", 1);
-    EXPECT_EQ(TraceSinkFromEnvironment(), nullptr);
-    ::unsetenv("TROVANE_TRACE");
-    EXPECT_EQ(MakeFileTraceSink("/nonexistent-directory/trace.log"), nullptr);
-    auto previous = SetTraceSink(nullptr);
-    DebugInfo("discarded");
-    EXPECT_EQ(SetTraceSink(previous), nullptr);
 }
 
 }  // namespace

@@ -5,16 +5,14 @@
 namespace trovane {
 namespace {
 
-TEST(Utf16ToUtf8, EncodesOneToFourByteCharactersAndKeepsEmbeddedNul) {
-    EXPECT_EQ(Utf16ToUtf8(u"A\u00e9\u20ac"), "A\xC3\xA9\xE2\x82\xAC");
-    EXPECT_EQ(Utf16ToUtf8(u"\U0001F600"), "\xF0\x9F\x98\x80");
-    EXPECT_EQ(Utf16ToUtf8(u"\uFFFF"), "\xEF\xBF\xBF");
-    EXPECT_EQ(Utf16ToUtf8(std::u16string(u"a\0b", 3)), std::string("a\0b", 3));
-}
-
-TEST(Utf16ToUtf8, ReplacesUnpairedSurrogates) {
+// One to four bytes per character, embedded NUL kept, unpaired surrogates replaced by U+FFFD.
+TEST(Utf16ToUtf8, EncodesEveryLengthAndReplacesUnpairedSurrogates) {
     const std::string bad = "\xEF\xBF\xBD";
     const std::pair<std::u16string, std::string> cases[] = {
+        {u"A\u00e9\u20ac", "A\xC3\xA9\xE2\x82\xAC"},
+        {u"\U0001F600", "\xF0\x9F\x98\x80"},
+        {u"\uFFFF", "\xEF\xBF\xBF"},
+        {std::u16string(u"a\0b", 3), std::string("a\0b", 3)},
         {{u'a', 0xD800, u'b'}, "a" + bad + "b"},
         {{0xDC00, u'c'}, bad + "c"},
         {{u'd', 0xDBFF}, "d" + bad},
