@@ -99,7 +99,9 @@ class DialogTest : public ::testing::Test {
     std::unique_ptr<DialogWindow> window;
 };
 
-TEST_F(DialogTest, OpensWithTheServersAlarmsAndBlockings) {
+// Opens with the server's alarms and blockings; a clicked row switches the blocking panel to its
+// signal; acknowledging the selected alarm, then all, reaches the server and the list follows.
+TEST_F(DialogTest, OpensSelectsAnAlarmAndAcknowledgesItThenAll) {
     Open();
     QTreeWidget* list = AlarmList();
     ASSERT_NE(list, nullptr);
@@ -110,28 +112,19 @@ TEST_F(DialogTest, OpensWithTheServersAlarmsAndBlockings) {
     EXPECT_EQ(BlockingBox("Check1")->text(), "Update");
     EXPECT_EQ(BlockingBox("Check3")->checkState(), Qt::PartiallyChecked);  // one signal blocks alarms
     EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
-    EXPECT_TRUE(Button("Alarms", "btnAck")->isEnabled());
-    EXPECT_TRUE(window->windowTitle().startsWith("Control dialog"));
-}
-
-TEST_F(DialogTest, SelectingAnAlarmRowSwitchesTheBlockingPanelToTheSignal) {
-    Open();
     EXPECT_FALSE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
+    EXPECT_TRUE(window->windowTitle().startsWith("Control dialog"));
+
     ClickRow(kBreakerTripRow);
     EXPECT_EQ(BlockingPanel().logicalName, "ABC");
     EXPECT_EQ(BlockingPanel().baseIndex, 11);
     EXPECT_TRUE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
-    EXPECT_TRUE(Button("Alarms", "btnAckSelected")->isEnabled());
-    EXPECT_TRUE(AlarmList()->topLevelItem(kBreakerTripRow)->isSelected());
-}
+    EXPECT_TRUE(list->topLevelItem(kBreakerTripRow)->isSelected());
 
-TEST_F(DialogTest, AcknowledgeSelectedThenAllReachesTheServerAndTheListFollows) {
-    Open();
-    ClickRow(kBreakerTripRow);
     Click(Button("Alarms", "btnAckSelected"));
     EXPECT_EQ(ServerAlarmState(11), "ACTIVE_ACKNOWLEDGED");
     window->Settle();
-    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
+    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
     EXPECT_FALSE(Button("Alarms", "btnAckSelected")->isEnabled());
     Click(Button("Alarms", "btnAck"));
     window->Settle();
@@ -139,11 +132,18 @@ TEST_F(DialogTest, AcknowledgeSelectedThenAllReachesTheServerAndTheListFollows) 
     EXPECT_FALSE(Button("Alarms", "btnAck")->isEnabled()) << "nothing is left to acknowledge";
 }
 
-TEST_F(DialogTest, TickingABlockingAndApplyWritesItForTheWholeObject) {
+// Cancel restores the shown state and writes nothing; OK writes the ticked kind for the whole object.
+TEST_F(DialogTest, TickingABlockingThenCancelOrApply) {
     Open();
     Tick(BlockingBox("Check1"));
     EXPECT_TRUE(Button("Blocking", "btnOK")->isEnabled());
     EXPECT_FALSE(Button("Blocking", "btnRefresh")->isEnabled());
+    Click(Button("Blocking", "btnCancel"));
+    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Unchecked);
+    EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
+    EXPECT_FALSE(Button("Blocking", "btnCancel")->isEnabled());
+    EXPECT_EQ(ServerBlocking(10, 1), 0);
+    Tick(BlockingBox("Check1"));
     Click(Button("Blocking", "btnOK"));
     EXPECT_EQ(ServerBlocking(10, 1), 1);
     EXPECT_EQ(ServerBlocking(12, 1), 1);
@@ -164,17 +164,6 @@ TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
     EXPECT_EQ(ServerBlocking(10, 1), 0);
     // The operator's OK also lets the frozen alarm list follow the server again.
     EXPECT_FALSE(AlarmPanel().DisableUpdate);
-}
-
-TEST_F(DialogTest, CancelRestoresTheShownStateAndWritesNothing) {
-    Open();
-    Tick(BlockingBox("Check1"));
-    ASSERT_EQ(BlockingBox("Check1")->checkState(), Qt::Checked);
-    Click(Button("Blocking", "btnCancel"));
-    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Unchecked);
-    EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
-    EXPECT_FALSE(Button("Blocking", "btnCancel")->isEnabled());
-    EXPECT_EQ(ServerBlocking(10, 1), 0);
 }
 
 TEST_F(DialogTest, WithoutRightsNothingCanBeChanged) {
@@ -212,6 +201,8 @@ TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
     EXPECT_FALSE(error->isVisible());
 }
 
+// The panels stand on their pages, the dialog fits 1280x800, the host's window position is the
+// window's in twips, and the screenshot is a picture of the whole dialog.
 TEST_F(DialogTest, PanelsStandOnTheirPagesAndTheDialogFitsASmallScreen) {
     Open();
     EXPECT_EQ(window->PageNames(), std::vector<std::string>{"alarms"});
@@ -225,19 +216,12 @@ TEST_F(DialogTest, PanelsStandOnTheirPagesAndTheDialogFitsASmallScreen) {
     EXPECT_TRUE(pages->widget(0)->isAncestorOf(BlockingBox("Check1")));
     EXPECT_LE(window->frameGeometry().width(), 1280);
     EXPECT_LE(window->frameGeometry().height(), 800);
-    // The host's window position, as panels read it to place their dialogs, is the window's, in twips.
     const Variant container(ObjectRef(host->Container().shared_from_this()));
     EXPECT_EQ(ToInt32(GetProperty(container, "Width")),
               static_cast<int32_t>(window->frameGeometry().width() * platform.windows->TwipsPerPixelX()));
-}
-
-TEST_F(DialogTest, ScreenshotIsAPictureOfTheWholeDialog) {
-    Open();
     const QString file = QDir::temp().filePath("trovane-dialog-test.png");
     ASSERT_TRUE(WriteScreenshot(*window, file.toStdString()));
-    const QImage picture(file);
-    EXPECT_EQ(picture.size(), window->size());
-    EXPECT_GT(picture.width(), 300);
+    EXPECT_EQ(QImage(file).size(), window->size());
     QFile::remove(file);
 }
 
