@@ -32,10 +32,8 @@ class DialogTest : public ::testing::Test {
   protected:
     DialogTest() { trovane::testing::TestApplication(); }
 
-    void Open(UserRights rights = UserRights::All()) {
-        DialogOptions options;
-        options.rights = rights;
-        host = std::make_unique<DialogHost>(options, platform.services);
+    void Open() {
+        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
         window = std::make_unique<DialogWindow>(*host, platform);
         window->Start();
         window->show();
@@ -164,15 +162,6 @@ TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
     EXPECT_EQ(ServerBlocking(10, 1), 0);
     // The operator's OK also lets the frozen alarm list follow the server again.
     EXPECT_FALSE(AlarmPanel().DisableUpdate);
-}
-
-TEST_F(DialogTest, WithoutRightsNothingCanBeChanged) {
-    Open(UserRights::None());
-    EXPECT_FALSE(BlockingBox("Check1")->isEnabled());
-    EXPECT_FALSE(Button("Alarms", "btnAck")->isEnabled());
-    Tick(BlockingBox("Check1"));
-    EXPECT_EQ(ServerBlocking(10, 1), 0);
-    EXPECT_EQ(BlockingBox("Check1")->checkState(), Qt::Unchecked);
 }
 
 TEST_F(DialogTest, AClickedRowKeepsTheListStillUntilRefresh) {
