@@ -1,10 +1,10 @@
-// The panel base, traced operations, shared command text and the standard container members.
+// The panel base, traced operations and shared command text. The standard container members are
+// checked through the demo host (tests/qt/demo_host_test.cpp) and every panel test's container.
 
 #include <gtest/gtest.h>
 
 #include "common/command_text.h"
 #include "common/panel.h"
-#include "common/standard_container.h"
 #include "common/traced_operation.h"
 #include "core/conversions.h"
 #include "platform/controls/controls.h"
@@ -139,26 +139,6 @@ TEST(CommandTextTest, ObjectReferenceAndQuoteDoubling) {
     EXPECT_EQ(ObjectReferenceText("ABC", -1), R"(("ABC",-1))");
     EXPECT_EQ(WithQuotesDoubled(R"(say "hi" to O'Neil)"), R"(say ""hi"" to O''Neil)");
     EXPECT_EQ(WithQuotesDoubled(""), "");
-}
-
-TEST(StandardContainerTest, AnswersTheStandardMembersFromItsSettings) {
-    auto functions = std::make_shared<CommonFunctions>();
-    functions->SetLanguage("DE");
-    auto connection = std::make_shared<FakeConnection>();
-    UserRights rights = UserRights::None();
-    rights.engineer = true;
-    auto container = std::make_shared<StandardContainer>(
-        "frmHost", functions, ContainerSettings{connection->AsVariant(), 3, "anna", rights});
-    const Variant host(ObjectRef{container});
-    EXPECT_EQ(CallMethod(host, "getLang"), Variant("DE"));
-    EXPECT_EQ(GetProperty(host, "sUserName"), Variant("anna"));
-    EXPECT_EQ(CallMethod(host, "IsUserEngineer"), Variant(true));
-    EXPECT_EQ(CallMethod(host, "IsSubstitutionHandlingAllowed"), Variant(false));
-
-    connection->QueueAnswer(Variant("one"));
-    EXPECT_EQ(CallMethod(host, "RunVexlCmd", {Variant("#return 1")}), Variant("one"));
-    EXPECT_EQ(connection->sent.back().application, 3);
-    EXPECT_EQ(ErrorNumberOf([&] { CallMethod(host, "RunVexlCmdWithStatus", {Variant("#return 1")}); }), 449);
 }
 
 }  // namespace
