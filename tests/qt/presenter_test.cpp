@@ -74,15 +74,20 @@ TEST_F(QtPresenterTest, AFormEndedByItsOwnButtonIsReleasedAfterTheClick) {
     }
 }
 
-TEST_F(QtPresenterTest, OwnerAndModalityFollowTheRequest) {
+// Owner, modality and place follow the request and the form; the presenter takes its windows
+// along when it goes, leaving the forms as they are.
+TEST_F(QtPresenterTest, OwnerModalityAndPlaceFollowTheRequestAndTheForm) {
     QWidget frame;
     frame.show();
     const int32_t frameHandle = platform.windows->HandleOf(&frame);
     auto dialog = MakeDialog();
+    const double twipsX = platform.windows->TwipsPerPixelX();
+    dialog->Move(static_cast<int32_t>(100 * twipsX),
+                 static_cast<int32_t>(50 * platform.windows->TwipsPerPixelY()), 3000, 1500);
 
     presenter.Present(*dialog, frameHandle, true);
-    FormView* view = presenter.ViewOf(*dialog);
-    ASSERT_NE(view, nullptr);
+    QPointer<FormView> view = presenter.ViewOf(*dialog);
+    ASSERT_FALSE(view.isNull());
     EXPECT_EQ(view->parentWidget(), &frame);
     EXPECT_TRUE(view->isWindow());
     EXPECT_EQ(platform.windows->GetWindowLong(dialog->Hwnd(), QtWindowSystem::kOwnerIndex), frameHandle);
@@ -98,8 +103,15 @@ TEST_F(QtPresenterTest, OwnerAndModalityFollowTheRequest) {
     EXPECT_TRUE(view->isVisible());
     presenter.Present(*dialog, 0, false);
     EXPECT_EQ(view->windowModality(), Qt::NonModal);
-    dialog->Unload();
-    LetTheEventLoopRun();
+    EXPECT_EQ(view->pos(), QPoint(100, 50));
+    dialog->SetLeft(static_cast<int32_t>(200 * twipsX));
+    EXPECT_EQ(view->pos(), QPoint(200, 50));
+
+    platform.services.presenter.reset();
+    platform.presenter.reset();
+    EXPECT_TRUE(view.isNull());
+    EXPECT_EQ(dialog->Hwnd(), 0);
+    EXPECT_TRUE(dialog->Loaded()) << "the form stays as it is";
 }
 
 TEST_F(QtPresenterTest, PresentingAgainBeforeTheReleaseTakesTheSameWindowBack) {
@@ -149,24 +161,6 @@ TEST_F(QtPresenterTest, ACancelledUnloadKeepsTheWindowAndClosingItUnloads) {
     EXPECT_EQ(dialog->Hwnd(), 0);
     keeper.Disconnect();
     EXPECT_FALSE(dialog->onUnload.IsConnected()) << "the presenter left no handler behind";
-}
-
-TEST_F(QtPresenterTest, APlacedFormPutsItsWindowThereAndThePresenterTakesItsWindowsAlong) {
-    auto dialog = MakeDialog();
-    const double twipsX = platform.windows->TwipsPerPixelX();
-    const double twipsY = platform.windows->TwipsPerPixelY();
-    dialog->Move(static_cast<int32_t>(100 * twipsX), static_cast<int32_t>(50 * twipsY), 3000, 1500);
-    presenter.Present(*dialog, 0, false);
-    QPointer<FormView> view = presenter.ViewOf(*dialog);
-    EXPECT_EQ(view->pos(), QPoint(100, 50));
-    dialog->SetLeft(static_cast<int32_t>(200 * twipsX));
-    EXPECT_EQ(view->pos(), QPoint(200, 50));
-
-    platform.services.presenter.reset();
-    platform.presenter.reset();
-    EXPECT_TRUE(view.isNull());
-    EXPECT_EQ(dialog->Hwnd(), 0);
-    EXPECT_TRUE(dialog->Loaded()) << "the form stays as it is";
 }
 
 }  // namespace
