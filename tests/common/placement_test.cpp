@@ -42,11 +42,10 @@ TEST_F(PlacementTest, FormIsMovedIntoTheWorkAreaOfTheCursorsMonitor) {
 TEST_F(PlacementTest, LimitsUseEachAxisOwnTwipsFactorRounded) {
     windows->SetTwipsPerPixel(15.0003, 12.5);
     Place(0, 0, 100, 100);
-    EXPECT_EQ(form.Left(), 28801);  // 1920 x 15.0003 = 28800.576
-    EXPECT_EQ(form.Top(), 500);     // 40 x 12.5
+    EXPECT_EQ(std::make_pair(form.Left(), form.Top()), std::make_pair(28801, 500));  // 28800.576, 40 x 12.5
 }
 
-TEST_F(PlacementTest, OwnedDialogIsMadeTopmostOnlyWhenItsFrameIs) {
+TEST_F(PlacementTest, OwnedDialogIsMadeTopmostOnlyWhenItsFrameIsAndTheStartInfoNamesBoth) {
     functions->SetWindowOrder2(kDialog, kFrame);
     EXPECT_EQ(windows->OwnerOf(kDialog), kFrame);
     EXPECT_TRUE(windows->PositionRequests().empty());
@@ -57,23 +56,15 @@ TEST_F(PlacementTest, OwnedDialogIsMadeTopmostOnlyWhenItsFrameIs) {
     EXPECT_EQ(windows->PositionRequests()[1].flags, 39u);
     EXPECT_EQ(windows->PositionRequests()[1].insertAfter, -1);
     EXPECT_TRUE(windows->IsTopmost(kDialog));
-    functions->SetWindowOwner(false);  // without an owner the dialog is always made topmost
-    windows->SetWindowLong(kFrame, -20, 0);
-    functions->SetWindowOrder2(kDialog + 1, kFrame);
-    EXPECT_EQ(windows->OwnerOf(kDialog + 1), 0);
-    EXPECT_TRUE(windows->IsTopmost(kDialog + 1));
-}
-
-TEST_F(PlacementTest, WindowOrderTakesOwnerAndFrameFromTheStartInfo) {
-    functions->SetStartInfo(StartInfo());
-    functions->SetWindowOrder(kDialog);
-    EXPECT_EQ(windows->OwnerOf(kDialog), 0);
-    EXPECT_TRUE(windows->IsTopmost(kDialog));
-    windows->SetWindowLong(kFrame, -20, 8);
     functions->SetStartInfo(StartInfo({{"SET_OWNER", true}, {"FRAME_HANDLE", kFrame}}));
     functions->SetWindowOrder(kDialog + 1);
     EXPECT_EQ(windows->OwnerOf(kDialog + 1), kFrame);
     EXPECT_TRUE(windows->IsTopmost(kDialog + 1));
+    functions->SetStartInfo(StartInfo());  // without an owner the dialog is always made topmost
+    windows->SetWindowLong(kFrame, -20, 0);
+    functions->SetWindowOrder(kDialog + 2);
+    EXPECT_EQ(windows->OwnerOf(kDialog + 2), 0);
+    EXPECT_TRUE(windows->IsTopmost(kDialog + 2));
 }
 
 TEST_F(PlacementTest, WorkstationIsInActiveUseBelowOneSecondOfIdlenessAndOverflowsAcrossTheSignedRange) {
