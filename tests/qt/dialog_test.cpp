@@ -164,17 +164,6 @@ TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
     EXPECT_FALSE(AlarmPanel().DisableUpdate);
 }
 
-TEST_F(DialogTest, AClickedRowKeepsTheListStillUntilRefresh) {
-    Open();
-    ClickRow(kBreakerTripRow);
-    Ask("#SET ABC:PAR11=1");
-    window->Settle();
-    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Persisting");
-    Click(Button("Alarms", "btnRefresh"));
-    window->Settle();
-    EXPECT_EQ(AlarmList()->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
-}
-
 TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
     Open();
     CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
