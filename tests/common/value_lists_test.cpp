@@ -63,15 +63,21 @@ TEST_F(ValueListTest, LookupIsCaseSensitiveScansValuesTooAndItsDefaultReplacesEm
     EXPECT_EQ(common.GetListItemDef(defaults, "V", Variant("dflt")), Variant("v"));
 }
 
-TEST_F(ValueListTest, SetListAttributeStepsOverValuesAndDoesNotAddAMissingName) {
+TEST_F(ValueListTest, SetListAttributeStepsOverValuesAddsNoMissingNameAndNonListsGiveEmptyWithoutRaising) {
     Variant list = ListOf({Variant("A"), Variant("B"), Variant("B"), Variant(int32_t{5})});
     EXPECT_TRUE(common.SetListAttribute(list, "B", Variant(int32_t{7})).IsEmpty());
     EXPECT_EQ(list, ListOf({Variant("A"), Variant("B"), Variant("B"), Variant(int32_t{7})}));
     EXPECT_EQ(trace.Lines(), (Lines{"-> SetListAttribute (B)", "<- SetListAttribute"}));
-    Variant other = ListOf({Variant("A"), Variant("X")});
-    common.SetListAttribute(other, "X", Variant(int32_t{1}));
-    EXPECT_EQ(other, ListOf({Variant("A"), Variant("X")}));
-    EXPECT_EQ(trace.Lines().back(), "<- SetListAttribute ERROR OCCURRED. Variable type is Empty");
+    // The first holds "X" only as a value; the others are no lists at all.
+    for (const Variant& notAList : {ListOf({Variant("A"), Variant("X")}), Variant(int32_t{3}), Variant("A"),
+                                    Variant(), MakeStringArray({"", "A", "B"})}) {
+        Variant copy = notAList;
+        EXPECT_TRUE(common.SetListAttribute(copy, "X", Variant(int32_t{1})).IsEmpty());
+        EXPECT_EQ(copy, notAList);
+        EXPECT_EQ(trace.Lines().back(), "<- SetListAttribute ERROR OCCURRED. Variable type is Empty");
+        EXPECT_TRUE(common.GetListItem(notAList, "Z").IsEmpty());
+        EXPECT_EQ(trace.Lines().back(), "<- GetListItem ERROR OCCURRED. Variable type is Empty");
+    }
 }
 
 TEST_F(ValueListTest, IndexesBeyondSixteenBitsOverflow) {
@@ -80,20 +86,7 @@ TEST_F(ValueListTest, IndexesBeyondSixteenBitsOverflow) {
     EXPECT_EQ(common.GetListItem(full, "LAST"), Variant(int32_t{1}));
     EXPECT_EQ(ErrorNumberOf([&] { common.AddListAttribute(full, "MORE", Variant()); }), 6);
     EXPECT_EQ(full.AsArray().UpperBound(), 32767);  // nothing was added
-    const Variant tooLong = ListWithUpperBound(32768);
-    EXPECT_EQ(ErrorNumberOf([&] { common.GetListItem(tooLong, "A"); }), 6);
-}
-
-TEST_F(ValueListTest, NonListsGiveEmptyAndTheErrorTraceWithoutRaising) {
-    for (const Variant& notAList :
-         {Variant(int32_t{3}), Variant("A"), Variant(), MakeStringArray({"", "A", "B"})}) {
-        trace.Clear();
-        EXPECT_TRUE(common.GetListItem(notAList, "A").IsEmpty());
-        EXPECT_EQ(trace.Lines().back(), "<- GetListItem ERROR OCCURRED. Variable type is Empty");
-        Variant copy = notAList;
-        EXPECT_TRUE(common.SetListAttribute(copy, "A", Variant(int32_t{1})).IsEmpty());
-        EXPECT_EQ(copy, notAList);
-    }
+    EXPECT_EQ(ErrorNumberOf([&] { common.GetListItem(ListWithUpperBound(32768), "A"); }), 6);
 }
 
 // Replacement lists: pairs from index 2 on, whatever the first two elements hold.
@@ -113,7 +106,7 @@ TEST_F(ValueListTest, ReplacementPairsStartAtIndexTwoIgnoreKeyCaseAndNeedText) {
     EXPECT_EQ(common.ReplacementText("ID1234"), "");
 }
 
-TEST_F(ValueListTest, EmptyOrWrongTypeKeepsTheEarlierReplacementList) {
+TEST_F(ValueListTest, EmptyWrongTypeOrDuplicateKeyLeavesWhatItReplacesAsDescribed) {
     const Variant list = Replacements({Variant("ID1"), Variant("one")});
     common.SetStringReplacementList(list);
     common.SetStringReplacementList(Variant());
@@ -127,18 +120,15 @@ TEST_F(ValueListTest, EmptyOrWrongTypeKeepsTheEarlierReplacementList) {
     EXPECT_EQ(messageBox->shown[0].icon, MessageIcon::Critical);
     common.SetStringReplacementList(MakeStringArray({"", "", "ID1", "x"}));  // a String() array too
     EXPECT_EQ(messageBox->shown.size(), 2u);
-    EXPECT_EQ(common.ReplacementText("ID1"), "one");
     EXPECT_EQ(common.GetStringReplacementList(), list);
-}
 
-TEST_F(ValueListTest, DuplicateReplacementKeyRaises457AndKeepsOnlyThePairsBeforeIt) {
-    common.SetStringReplacementList(Replacements({Variant("ID9"), Variant("old")}));
+    // A duplicate key raises and keeps only the pairs before it; the old collection is gone.
     const Variant duplicate = Replacements(
-        {Variant("ID1"), Variant("one"), Variant("id1"), Variant("again"), Variant("ID2"), Variant("two")});
+        {Variant("ID2"), Variant("two"), Variant("id2"), Variant("again"), Variant("ID3"), Variant("three")});
     EXPECT_EQ(ErrorNumberOf([&] { common.SetStringReplacementList(duplicate); }), 457);
-    EXPECT_EQ(common.ReplacementText("ID1"), "one");
-    EXPECT_EQ(common.ReplacementText("ID2"), "");
-    EXPECT_EQ(common.ReplacementText("ID9"), "");  // the old collection was replaced
+    EXPECT_EQ(common.ReplacementText("ID2") + "|" + common.ReplacementText("ID3") + "|" +
+                  common.ReplacementText("ID1"),
+              "two||");
 }
 
 }  // namespace
