@@ -48,16 +48,12 @@ TEST_F(Texts, FileNameComesFromInstallationDirectoryOrBaseName) {
     EXPECT_EQ(files->installationDirectoryAsked, 2);
 }
 
-TEST_F(Texts, BuiltInTableWhenNothingConfiguredOrNoResourceService) {
+TEST_F(Texts, TextMissingFromFileFallsBackByConfiguration) {
     EXPECT_EQ(TypeName(texts.GetLanguage()), "String");
-    EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
-    for (int32_t id : {323, 0, -106}) EXPECT_EQ(texts.GetNlsString(id), "<ID NOT FOUND>") << id;
+    for (int32_t id : {0, -106}) EXPECT_EQ(texts.GetNlsString(id), "<ID NOT FOUND>") << id;
     CommonFunctions withoutService(ServicesWith(nullptr));
     withoutService.SetLanguage("EN");
     EXPECT_EQ(withoutService.GetNlsString(165), "OK");
-}
-
-TEST_F(Texts, TextMissingFromFileFallsBackByConfiguration) {
     LoadEnglish({{101, "From file"}, {165, ""}});
     EXPECT_EQ(texts.GetNlsString(101), "From file");
     EXPECT_EQ(texts.GetNlsString(271), "Trovane Error");
@@ -78,16 +74,7 @@ TEST_F(Texts, TextMissingFromFileFallsBackByConfiguration) {
     EXPECT_EQ(pathOnly.GetNlsString(271), "<TEXT NOT FOUND>");
 }
 
-TEST_F(Texts, ReplacementTextOverridesFileAndBuiltInUnlessEmptyOrNotText) {
-    LoadEnglish({{1234, "From file"}, {271, "File error title"}});
-    texts.SetStringReplacementList(MakeVariantArray({Variant(), Variant(), "ID1234", "Replaced", "id271",
-                                                     "Title replaced", "ID106", "", "ID165", int32_t{5}}));
-    EXPECT_EQ(texts.GetNlsString(1234) + "|" + texts.GetNlsString(271) + "|" + texts.GetNlsString(106) + "|" +
-                  texts.GetNlsString(165),
-              "Replaced|Title replaced|Cancel|OK");
-}
-
-TEST_F(Texts, FileTextIsCutAt254CharactersOrTheFirstNulAndSelectedByTheLow16Bits) {
+TEST_F(Texts, FileTextIsCutAt254CharactersOrTheFirstNulSelectedByTheLow16BitsAndReplaceable) {
     const std::string exact(254, 'x');
     std::string accented;
     for (int i = 0; i < 254; ++i) accented += "\xC3\xA9";
@@ -101,6 +88,12 @@ TEST_F(Texts, FileTextIsCutAt254CharactersOrTheFirstNulAndSelectedByTheLow16Bits
     EXPECT_EQ(texts.GetNlsString(104), "Open");
     EXPECT_EQ(texts.GetNlsString(105), "");  // found, so no fall-back, but empty up to the NUL
     EXPECT_EQ(texts.GetNlsString(0x10000 + 104), "Open");
+    // Replacements override file and built-in texts unless empty or not text.
+    texts.SetStringReplacementList(MakeVariantArray({Variant(), Variant(), "ID101", "Replaced", "id271",
+                                                     "Title replaced", "ID106", "", "ID165", int32_t{5}}));
+    EXPECT_EQ(texts.GetNlsString(101) + "|" + texts.GetNlsString(271) + "|" + texts.GetNlsString(106) + "|" +
+                  texts.GetNlsString(165),
+              "Replaced|Title replaced|Cancel|OK");
 }
 
 TEST_F(Texts, EachLanguageSwitchUsesTheLastFileAFailedLoadMeansNoFileAndCleanupReleasesThem) {
