@@ -34,34 +34,44 @@ class ErrorDlgTest : public ServicesTest {
     }
 };
 
-TEST_F(ErrorDlgTest, LoadingSetsCaptionsTextAndCountdownAndOkUnloadsForTheNextErrorToReload) {
-    ErrorDlg& dialog = ShowWithTimeout("90");
-    EXPECT_TRUE(dialog.Visible());
-    EXPECT_EQ(dialog.Caption() + "|" + dialog.Command1.Caption() + "|" + dialog.Label1.Caption(),
-              "Trovane Error|OK|Command failed");
-    EXPECT_EQ(dialog.remainingTicks, 89);
-    EXPECT_EQ(dialog.Timer1.Interval(), 1000);
-    EXPECT_EQ(TicksUntilClosed(dialog, 200), 90);
-    functions->ShowError("Second");
-    dialog.Command1.Click();
-    EXPECT_FALSE(dialog.Loaded());
-    functions->ShowError("Third");
-    EXPECT_EQ(ExistingErrorDlg(), &dialog);
-    EXPECT_EQ(dialog.Label1.Caption(), "Third");
-    EXPECT_EQ(dialog.remainingTicks, 89);
-}
+using Kind = HeadlessPresenter::Record::Kind;
 
-TEST_F(ErrorDlgTest, CaptionsComeFromTheLatestCallersReplacementTexts) {
+TEST_F(ErrorDlgTest, ShowErrorPresentsTheCallersTextsUnownedAndOkDismissesItForTheNextErrorToReload) {
     functions->SetStringReplacementList(
         MakeVariantArray({Variant(), "x", "ID271", "Fehler", "ID270", "Schliessen"}));
     ErrorDlg& dialog = ShowWithTimeout("90");
-    EXPECT_EQ(dialog.Caption(), "Fehler");
-    EXPECT_EQ(dialog.Command1.Caption(), "Schliessen");
+    EXPECT_TRUE(dialog.Visible());
+    EXPECT_EQ(dialog.Caption() + "|" + dialog.Command1.Caption() + "|" + dialog.Label1.Caption(),
+              "Fehler|Schliessen|Command failed");
+    EXPECT_EQ(dialog.remainingTicks, 89);
+    EXPECT_EQ(dialog.Timer1.Interval(), 1000);
+    ASSERT_EQ(presenter->Records().size(), 1u);
+    const HeadlessPresenter::Record shown = presenter->Records()[0];
+    EXPECT_EQ(shown.kind, Kind::Present);
+    EXPECT_EQ(shown.form, "ErrorDlg");
+    EXPECT_EQ(std::make_pair(shown.owner, shown.modal), std::make_pair(0, false));
+    EXPECT_EQ(dialog.Hwnd(), shown.hwnd);
+    // The topmost request names no window, whatever the dialog's own handle is.
+    ASSERT_EQ(windows->PositionRequests().size(), 1u);
+    EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
+    EXPECT_EQ(windows->PositionRequests()[0].flags, 3u);
+    EXPECT_EQ(TicksUntilClosed(dialog, 200), 90);
 
-    dialog.Unload();
-    CommonFunctions otherCaller(platform);
-    otherCaller.ShowError("x");
-    EXPECT_EQ(dialog.Caption(), "Trovane Error");
+    functions->ShowError("Second");
+    dialog.Command1.Click();
+    EXPECT_FALSE(dialog.Loaded());
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
+    EXPECT_EQ(dialog.Hwnd(), 0);
+    CommonFunctions otherCaller(platform);  // the latest caller's texts count
+    otherCaller.ShowError("Third");
+    EXPECT_EQ(ExistingErrorDlg(), &dialog);
+    EXPECT_EQ(dialog.Caption() + "|" + dialog.Label1.Caption(), "Trovane Error|Third");
+    EXPECT_EQ(dialog.remainingTicks, 89);
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Present);
+    EXPECT_NE(dialog.Hwnd(), 0);
+    functions->MakeCleanup();
+    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
+    EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
 TEST_F(ErrorDlgTest, CountdownEndsOnTimeUnlessTheOperatorIsActive) {
@@ -75,33 +85,6 @@ TEST_F(ErrorDlgTest, CountdownEndsOnTimeUnlessTheOperatorIsActive) {
     clock->ticks = 0x80000000u;
     windows->RecordInput(0x7FFFFFF0u);
     EXPECT_EQ(TicksUntilClosed(dialog, 10), 3);
-}
-
-using Kind = HeadlessPresenter::Record::Kind;
-
-TEST_F(ErrorDlgTest, ShowErrorPresentsTheDialogWithoutOwnerAndItsUnloadDismissesIt) {
-    functions->ShowError("x");
-    ErrorDlg& dialog = *ExistingErrorDlg();
-    ASSERT_EQ(presenter->Records().size(), 1u);
-    const HeadlessPresenter::Record& shown = presenter->Records()[0];
-    EXPECT_EQ(shown.kind, Kind::Present);
-    EXPECT_EQ(shown.form, "ErrorDlg");
-    EXPECT_EQ(std::make_pair(shown.owner, shown.modal), std::make_pair(0, false));
-    EXPECT_EQ(dialog.Hwnd(), shown.hwnd);
-    // The topmost request names no window, whatever the dialog's own handle is.
-    ASSERT_EQ(windows->PositionRequests().size(), 1u);
-    EXPECT_EQ(windows->PositionRequests()[0].hwnd, 0);
-    EXPECT_EQ(windows->PositionRequests()[0].flags, 3u);
-
-    dialog.Command1.Click();
-    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
-    EXPECT_EQ(dialog.Hwnd(), 0);
-    functions->ShowError("y");
-    EXPECT_EQ(presenter->Records().back().kind, Kind::Present);
-    EXPECT_NE(dialog.Hwnd(), 0);
-    functions->MakeCleanup();
-    EXPECT_EQ(presenter->Records().back().kind, Kind::Dismiss);
-    EXPECT_EQ(ExistingErrorDlg(), nullptr);
 }
 
 // ShowError2: presented (and so loaded, with its handle), then ordered, then shown.
@@ -137,7 +120,6 @@ TEST(MBIconTest, DefaultsToTheInformationIconAndSavesOnlyChanges) {
     MBIcon::PropertyBag bag;
     icon.WriteProperties(bag);
     EXPECT_TRUE(bag.empty());
-
     icon.SetIconType(MBIcon::kWarning);
     icon.WriteProperties(bag);
     EXPECT_EQ(bag.at("IconType"), Variant(32515));
