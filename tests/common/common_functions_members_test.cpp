@@ -14,7 +14,7 @@ class MembersTest : public ServicesTest {
     }
 };
 
-TEST_F(MembersTest, OperationsAnswerByNameWithConvertedAndByReferenceArguments) {
+TEST_F(MembersTest, OperationsAnswerByNameWithConvertedAndByReferenceArgumentsOrAClearError) {
     connection->QueueAnswer(Variant(), 13);
     Variant run[] = {connection->AsVariant(), "#return 1", int16_t{1}, int32_t{0}};
     EXPECT_TRUE(CallMethod(Self(), "RunVexlCmdGlobalWithStatus", run).IsEmpty());
@@ -28,9 +28,7 @@ TEST_F(MembersTest, OperationsAnswerByNameWithConvertedAndByReferenceArguments) 
     CallMethod(Self(), "SetWindowOrder2", {int32_t{5}, int32_t{6}});
     EXPECT_TRUE(windows->IsTopmost(5));
     EXPECT_EQ(CallMethod(Self(), "GetColorByIndex", {int16_t{2}}), Variant(0x123456));
-}
-
-TEST_F(MembersTest, UnknownMembersMissingArgumentsAndWrongFormsAreClearErrors) {
+    // Unknown members, missing arguments and wrong forms are clear errors.
     EXPECT_EQ(ErrorNumberOf([&] { CallMethod(Self(), "NoSuchMember"); }), 438);
     EXPECT_EQ(ErrorNumberOf([&] { CallMethod(Self(), "ShowError"); }), 449);
     EXPECT_EQ(ErrorNumberOf([&] { CallMethod(Self(), "CheckDialogPosition", {"not a form"}); }), 13);
