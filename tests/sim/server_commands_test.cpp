@@ -72,24 +72,13 @@ TEST_F(ServerCommandsTest, AlarmListHasOneFiveElementVectorPerSignalAndEveryStat
                                      "OS_1_2_4_9", "BLOCKED", "MANUALLY_ENTERED", "SUBSTITUTED"}));
 }
 
-TEST_F(ServerCommandsTest, AcknowledgementClearsTheFlagAndMovesTheAlarmTime) {
-    clock.now = MakeDate(2026, 11, 22, 10, 0, 0);
-    Run("#SET ABC:PAR11=1");
-    EXPECT_EQ(AlarmOf(Object("ABC", 11)), (AlarmEntry{"ACTIVE_ACKNOWLEDGED", false}));
-    Run("#SET ABC:PAR12=1");
-    EXPECT_EQ(AlarmOf(Object("ABC", 12)), (AlarmEntry{"NORMAL", false}));
-    EXPECT_EQ(Run("#return APL:BAT"), Variant(clock.now));
-}
-
-TEST_F(ServerCommandsTest, EnabledBlockingsAreAListOfSixKeywords) {
-    const Variant answer = Run("#return do(BGU_BLOCK:C, \"GET_ENABLED_BLOCKINGS\", (\"ABC\",18))");
+TEST_F(ServerCommandsTest,
+       EnabledKindsAreKeywordsBlockingReadGreysMixedKindsWritesShowInTheNextReadAndSelectedLeavesTheOthers) {
+    const Variant enabled = Run("#return do(BGU_BLOCK:C, \"GET_ENABLED_BLOCKINGS\", (\"ABC\",18))");
     std::string states;
     for (const char* kind : {"UPDATE", "CONTROL", "ALARM", "EVENT", "PRINTOUT", "ACTION"})
-        states += Item(answer, kind).AsString() + " ";
+        states += Item(enabled, kind).AsString() + " ";
     EXPECT_EQ(states, "ENABLED DISABLED ENABLED ENABLED ENABLED DISABLED ");
-}
-
-TEST_F(ServerCommandsTest, BlockingReadGreysMixedKindsWritesShowInTheNextReadAndSelectedLeavesTheOthers) {
     const std::string read = Blocking("GET_BLOCKING_STATE", 10, "Vector()", "APPLY_TO_ALL");
     const Variant state = Run(read);
     ASSERT_EQ(TypeName(state), "Long()");
@@ -115,7 +104,8 @@ TEST_F(ServerCommandsTest, BlockingReadGreysMixedKindsWritesShowInTheNextReadAnd
     EXPECT_EQ(AlarmOf(Object("ABC", 11)).keyword, "BLOCKED");
 }
 
-TEST_F(ServerCommandsTest, MalformedOrRefusedCommandsFailWithAStatus) {
+TEST_F(ServerCommandsTest,
+       MalformedOrRefusedCommandsFailWithAStatusAsDoesAnotherApplicationOrANotReadyConnection) {
     // clang-format off
     for (const std::string& command : {
              Blocking("GET_BLOCKING_STATE", 10, "Vector()", "APPLY_TO_SOME"),
@@ -131,6 +121,14 @@ TEST_F(ServerCommandsTest, MalformedOrRefusedCommandsFailWithAStatus) {
         EXPECT_NE(status, 0) << command;
     }
     EXPECT_EQ(Attribute("ABC", 10, "CL"), 1000);
+    Variant result;  // nor does the connection take another application's or, not ready, any command
+    int32_t status = 0;
+    connection->ExecuteCommand(2, "#return 1", result, status);
+    EXPECT_EQ(status, status::kUnknownObject);
+    connection->SetReady(false);
+    connection->ExecuteCommand(1, "#return 1", result, status);
+    EXPECT_EQ(status, status::kNotReady);
+    EXPECT_TRUE(result.IsEmpty());
 }
 
 TEST_F(ServerCommandsTest, SubstitutionListDescribesEverySignalOrOnlyTheSelectedOne) {
@@ -191,17 +189,6 @@ TEST_F(ServerCommandsTest, OperationCounterCommandsOfTheDoubleBinaryBreakerAndOp
     EXPECT_EQ(Attribute("ABC", 10, "CO"), 1);
     Run("#SET ABC:PCE10=0");
     EXPECT_EQ(Attribute("ABC", 10, "CE"), 0);
-}
-
-TEST_F(ServerCommandsTest, ConnectionRefusesAnotherApplicationAndWhenNotReady) {
-    Variant result;
-    int32_t status = 0;
-    connection->ExecuteCommand(2, "#return 1", result, status);
-    EXPECT_EQ(status, status::kUnknownObject);
-    connection->SetReady(false);
-    connection->ExecuteCommand(1, "#return 1", result, status);
-    EXPECT_EQ(status, status::kNotReady);
-    EXPECT_TRUE(result.IsEmpty());
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/error.h"
+#include "sim/alarm_state.h"
 #include "sim/server_fixture.h"
 #include "support/recording_data_callback.h"
 
@@ -47,7 +48,8 @@ TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePump) {
     EXPECT_EQ(callback.ValuesOf(1)[0].AsString().rfind("operator1#", 0), 0u);
 }
 
-TEST_F(SubscriptionTest, WritesNotifyOnceAfterThePumpCoalescedAndUnchangedValuesNotifyNothing) {
+TEST_F(SubscriptionTest,
+       WritesNotifyOnceAfterThePumpCoalescedUnchangedValuesNotifyNothingAndCallbackWritesWait) {
     Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
     Run("#SET ABC:PCL10=1000");
     EXPECT_EQ(connection->Pump(), 0);
@@ -57,6 +59,13 @@ TEST_F(SubscriptionTest, WritesNotifyOnceAfterThePumpCoalescedAndUnchangedValues
     connection->Pump();
     EXPECT_EQ(connection->Pump(), 0);
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1500})});
+    callback.onChange = [&] {  // a change made by a callback waits for the next pump
+        if (callback.notifications.size() == 2) Run("#SET ABC:PCL10=2000");
+    };
+    Run("#SET ABC:PCL10=1600");
+    EXPECT_EQ(connection->Pump(), 1);
+    EXPECT_EQ(connection->Pump(), 1);
+    EXPECT_EQ(callback.ValuesOf(1).back(), Variant(int32_t{2000}));
 }
 
 TEST_F(SubscriptionTest, DerivedAndMainObjectItemsFollowTheirSource) {
@@ -72,10 +81,14 @@ TEST_F(SubscriptionTest, DerivedAndMainObjectItemsFollowTheirSource) {
     EXPECT_TRUE(callback.ValuesOf(4).empty()) << "signal 11 is not the main object";
 }
 
-TEST_F(SubscriptionTest, AcknowledgementAndBlockingNotifyTheApplicationAlarmItem) {
+TEST_F(SubscriptionTest, AcknowledgementClearsTheFlagAndWithBlockingNotifiesTheApplicationAlarmItem) {
     Subscribe({"\\\\APL\\1:AT"});
     clock.now = MakeDate(2026, 11, 22, 11, 0, 0);
     Run("#SET ABC:PAR11=1");
+    Run("#SET ABC:PAR12=1");
+    EXPECT_EQ(AlarmOf(Object("ABC", 11)), (AlarmEntry{"ACTIVE_ACKNOWLEDGED", false}));
+    EXPECT_EQ(AlarmOf(Object("ABC", 12)), (AlarmEntry{"NORMAL", false}));
+    EXPECT_EQ(Run("#return APL:BAT"), Variant(clock.now));
     connection->Pump();
     EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(clock.now)});
     Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",12), (0,0,1,0,0,0), "
@@ -117,17 +130,6 @@ TEST_F(SubscriptionTest, UnknownItemsAreRefusedPerItemAndMalformedArgumentsRaise
         connection->AddItems(MakeLongArray({1, 2}, 1), MakeStringArray({"x"}, 1), 0, 200, handle, results),
         Error);
     EXPECT_THROW(connection->SetCallback(&callback, 4711), Error);
-}
-
-TEST_F(SubscriptionTest, ChangesMadeByACallbackWaitForTheNextPump) {
-    Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
-    callback.onChange = [&] {
-        if (callback.notifications.size() == 1) Run("#SET ABC:PCL10=2000");
-    };
-    Run("#SET ABC:PCL10=1500");
-    EXPECT_EQ(connection->Pump(), 1);
-    EXPECT_EQ(connection->Pump(), 1);
-    EXPECT_EQ(callback.ValuesOf(1), (std::vector<Variant>{Variant(int32_t{1500}), Variant(int32_t{2000})}));
 }
 
 }  // namespace
