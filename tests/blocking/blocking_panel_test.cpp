@@ -39,15 +39,12 @@ TEST_F(BlockingPanelTest, RefreshTracesEveryKindWithItsOwnWord) {
     EXPECT_EQ(panelLines, expected);
 }
 
-TEST_F(BlockingPanelTest, ServerDisabledKeywordDisablesOnlyThatKind) {
+TEST_F(BlockingPanelTest, ServerDisabledKeywordDisablesOnlyThatKindAndMissingRightsEveryKindAndTheOption) {
     enabledBlockings = MakeVariantArray({Variant(Currency{0}), "ALARM", "DISABLED", "EVENT", "disabled"});
     panel->Init();
     for (int16_t position = 1; position <= 6; ++position)
         EXPECT_EQ(Check(position).Enabled(), position != 3) << "Check" << position;
     EXPECT_TRUE(panel->chkBlockSelectedSignal.Enabled());
-}
-
-TEST_F(BlockingPanelTest, MissingRightsDisableEveryKindAndTheOption) {
     container->SetRight("IsBlockingHandlingAllowed", false);
     panel->chkBlockSelectedSignal.SetValue(1);  // runs Init through the option's click
     for (int16_t position = 1; position <= 6; ++position) EXPECT_FALSE(Check(position).Enabled());
@@ -57,7 +54,12 @@ TEST_F(BlockingPanelTest, MissingRightsDisableEveryKindAndTheOption) {
     EXPECT_NE(LastCommand().find("\"APPLY_TO_ALL\")"), std::string::npos);
 }
 
-TEST_F(BlockingPanelTest, OperatorClickEntersEditedStateAndOkWritesAllSixValuesAndReturnsToClean) {
+TEST_F(BlockingPanelTest, OperatorClickEntersEditedStateAndOkWritesAllSixValuesReleasesTheAlarmsAndIsClean) {
+    auto alarms = std::make_shared<DispatchObject>("Alarms");
+    Variant disableUpdate = true;
+    alarms->Property(
+        "DisableUpdate", [&] { return disableUpdate; }, [&](const Variant& v) { disableUpdate = v; });
+    container->Value("Alarms1", Variant(ObjectRef(alarms)));
     panel->Init();
     const size_t sentBefore = Commands().size();
     Check(2).Click();
@@ -72,17 +74,6 @@ TEST_F(BlockingPanelTest, OperatorClickEntersEditedStateAndOkWritesAllSixValuesA
     EXPECT_TRUE(IsClean());
     EXPECT_EQ(panel->Control(), 1);
     EXPECT_TRUE(std::none_of(panel->kindChanged.begin(), panel->kindChanged.end(), [](bool b) { return b; }));
-}
-
-TEST_F(BlockingPanelTest, OkReleasesTheAlarmPanelThroughTheContainer) {
-    auto alarms = std::make_shared<DispatchObject>("Alarms");
-    Variant disableUpdate = true;
-    alarms->Property(
-        "DisableUpdate", [&] { return disableUpdate; }, [&](const Variant& v) { disableUpdate = v; });
-    container->Value("Alarms1", Variant(ObjectRef(alarms)));
-    panel->Init();
-    Check(1).Click();
-    panel->btnOK.Click();
     EXPECT_EQ(disableUpdate, Variant(false));
 }
 
@@ -157,7 +148,8 @@ TEST_F(BlockingPanelTest, MembersAnswerByName) {
     EXPECT_EQ(GetProperty(GetProperty(self, "btnOK"), "Tag"), Variant("119"));
 }
 
-TEST_F(BlockingPanelTest, CheckingTheOptionReadsTheSelectedSignal) {
+TEST_F(BlockingPanelTest,
+       TheOptionSelectsTheSignalAndDisablingItRemembersACheckButAnUncheckedOneOnlyChangesEnabled) {
     panel->Init();
     panel->chkBlockSelectedSignal.Click();
     EXPECT_EQ(LastCommand(),
@@ -167,10 +159,6 @@ TEST_F(BlockingPanelTest, CheckingTheOptionReadsTheSelectedSignal) {
     EXPECT_EQ(
         LastCommand(),
         R"(#return do(BGU_BLOCK:C, "SET_BLOCKING_STATE", ("ABC",10), (0,0,0,0,1,0), "APPLY_TO_SELECTED"))");
-}
-
-TEST_F(BlockingPanelTest, DisablingTheOptionRemembersACheckAndRestoresItButAnUncheckedOneOnlyChangesEnabled) {
-    panel->chkBlockSelectedSignal.SetValue(1);
     panel->SetSingleBlocking(false);
     EXPECT_EQ(panel->chkBlockSelectedSignal.Value(), 0);
     EXPECT_EQ(panel->chkBlockSelectedSignal.Tag(), "WAS_CHECKED");
