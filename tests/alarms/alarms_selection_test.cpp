@@ -12,21 +12,16 @@ class AlarmsSelectionTest : public AlarmsPanelTest {
     }
 };
 
-TEST_F(AlarmsSelectionTest, ClickHandsTheSignalToTheBlockingPanel) {
+TEST_F(AlarmsSelectionTest,
+       ClickHandsTheSignalToTheBlockingPanelAndRefreshReselectsItWithoutFreezingOrSwitchesSingleBlockingOff) {
     panel->RefreshAlarms();
-    container->calls.clear();
-    panel->ListView1.ClickItem(2);
-
+    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
+    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
+    panel->ListView1.ClickItem(2);  // a click hands the signal to the blocking panel
     EXPECT_EQ(ArgumentsOf("SetBlockedSignal"), (std::vector<Variant>{Variant("ABC"), Variant(11)}));
     EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(true)}));
     EXPECT_EQ(panel->RememberedSignal(), "ABC:11");
     EXPECT_TRUE(panel->DisableUpdate);
-}
-
-TEST_F(AlarmsSelectionTest, RefreshReselectsTheRememberedSignalWithoutFreezingOrSwitchesSingleBlockingOff) {
-    panel->RefreshAlarms();
-    EXPECT_EQ(ArgumentsOf("SetSingleBlocking"), (std::vector<Variant>{Variant(false)}));
-    EXPECT_TRUE(container->CallsOf("SetBlockedSignal").empty());
     panel->ListView1.ClickItem(3);
     panel->DisableUpdate = false;
     SetSignals({Signal("ABC", 9, "NORMAL"), Signal("ABC", 12, "BLOCKED")});
