@@ -25,7 +25,7 @@ Session RunSession(const std::vector<std::string>& commands, const std::string& 
     return {exitCode, out.str()};
 }
 
-TEST(ConsoleTest, BlockingReadShowsSixValuesAndTheWriteShowsInTheSameRun) {
+TEST(ConsoleTest, BlockingWriteShowsInTheSameRunAFailedCommandItsStatusAndInputIsReadByLine) {
     const Session session =
         RunSession({kRead,
                     "#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",10), (0,1,0,0,0,0), "
@@ -33,19 +33,14 @@ TEST(ConsoleTest, BlockingReadShowsSixValuesAndTheWriteShowsInTheSameRun) {
                     kRead});
     EXPECT_EQ(session.exitCode, 0);
     EXPECT_EQ(session.out, "(0,0,2,0,0,0)\n(0,1,0,0,0,0)\n(0,1,0,0,0,0)\n");
-}
-
-TEST(ConsoleTest, FailedCommandPrintsItsStatusAndNameAndInputIsReadByLine) {
-    const Session session = RunSession({"#return do(BGU_BLOCK:C", "#return 10"});
-    EXPECT_EQ(session.exitCode, 1);
-    EXPECT_EQ(session.out, "!status 2001 VEXL_SYNTAX_ERROR\n10\n");
+    const Session failed = RunSession({"#return do(BGU_BLOCK:C", "#return 10"});
+    EXPECT_EQ(failed.exitCode, 1);
+    EXPECT_EQ(failed.out, "!status 2001 VEXL_SYNTAX_ERROR\n10\n");
     EXPECT_EQ(RunSession({"@x=\"ABC\"\n#return %x + \"D\""}).out, "\"ABCD\"\n") << "one command, two lines";
     // Without commands, standard input is read line by line.
     EXPECT_EQ(RunSession({}, "#SET ABC:PCL10=5\n\n#return ABC:PCL10\r\n#return ABC:PCO10\n").out,
               "<EMPTY>\n5\n1\n");
-}
-
-TEST(ConsoleTest, ScenarioTextReplacesTheDemo) {
+    // Scenario text replaces the demo.
     EXPECT_EQ(RunSession({"#return Q:PTX1"}, "",
                          R"({"objects":[{"name":"Q","signals":[{"index":1,"type":3,"text":"x"}]}]})")
                   .out,

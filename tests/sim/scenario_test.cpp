@@ -19,13 +19,21 @@ std::string ErrorOf(const std::string& json) {
     return "no error";
 }
 
-TEST(ScenarioTest, MinimalScenarioGetsDefaults) {
+TEST(ScenarioTest, MinimalScenarioGetsDefaultsAndWritesKeepTheAttributeType) {
     ProcessDatabase database;
     LoadScenario(R"({"objects":[{"name":"q1","signals":[{"index":3,"type":9,"value":1}]}]})", database);
     EXPECT_EQ(database.Read({"Q1", 3, "OV"}), Variant(1.0));
     EXPECT_EQ(database.Read({"Q1", std::nullopt, "GC"}), Variant(""));
     EXPECT_EQ(database.Read({"Q1", std::nullopt, "IX"}), Variant(int32_t{3})) << "the main object";
     EXPECT_FALSE(database.Tagouts());
+    LoadScenario(R"({"objects":[{"name":"A","signals":[{"index":1,"type":9,"attributes":{"XY":"t"}}]}]})",
+                 database);  // writes keep the attribute type
+    database.Write({"A", 1, "OV"}, Variant("12.5"));
+    EXPECT_EQ(database.Read({"A", 1, "OV"}), Variant(12.5));
+    database.Write({"A", 1, "XY"}, Variant(int32_t{5}));
+    EXPECT_EQ(database.Read({"A", 1, "XY"}), Variant("5"));
+    EXPECT_THROW(database.Write({"A", 1, "OV"}, Variant("high")), VexlStatus);
+    EXPECT_THROW(database.Write({"A", 1, "AL"}, Variant(int32_t{3})), VexlStatus);
 }
 
 TEST(ScenarioTest, BadScenariosNameThePlaceOfTheMistake) {
@@ -49,18 +57,6 @@ TEST(ScenarioTest, BadScenariosNameThePlaceOfTheMistake) {
         {R"({"objects":[{"name":"A","signals":[{"index":1,"type":3,"value":"on"}]}]})", "wrong type"}};
     for (const auto& [json, message] : cases)
         EXPECT_NE(ErrorOf(json).find(message), std::string::npos) << json;
-}
-
-TEST(ScenarioTest, WritesKeepTheAttributeType) {
-    ProcessDatabase database;
-    LoadScenario(R"({"objects":[{"name":"A","signals":[{"index":1,"type":9,"attributes":{"XY":"t"}}]}]})",
-                 database);
-    database.Write({"A", 1, "OV"}, Variant("12.5"));
-    EXPECT_EQ(database.Read({"A", 1, "OV"}), Variant(12.5));
-    database.Write({"A", 1, "XY"}, Variant(int32_t{5}));
-    EXPECT_EQ(database.Read({"A", 1, "XY"}), Variant("5"));
-    EXPECT_THROW(database.Write({"A", 1, "OV"}, Variant("high")), VexlStatus);
-    EXPECT_THROW(database.Write({"A", 1, "AL"}, Variant(int32_t{3})), VexlStatus);
 }
 
 }  // namespace

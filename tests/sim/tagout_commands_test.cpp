@@ -44,7 +44,8 @@ TEST_F(TagoutCommandsTest, ClassQueriesAnswerWhatThePanelChecks) {
     EXPECT_EQ(Tagout("\"GET_CLASS_ATTRIBUTE_POSTPROCESSING\",\"COMMENT\""), Variant("TRIM"));
 }
 
-TEST_F(TagoutCommandsTest, ExistingTagoutIsCountedNamedAndRead) {
+TEST_F(TagoutCommandsTest,
+       ExistingTagoutIsCountedNamedAndReadAndRefusesTooLongValuesUnknownAttributesAndItsKey) {
     EXPECT_EQ(Tagout("\"GET_NACTIVE_TAGOUTS\", " + object), Variant(int32_t{1}));
     const Variant names = Tagout("\"GET_TAGOUT_NAMES\", " + object);
     ASSERT_EQ(TypeName(names), "String()");
@@ -84,7 +85,7 @@ TEST_F(TagoutCommandsTest, EditingRefusesTooLongValuesAndUnknownAttributes) {
               Variant(tagout_error::kDuplicateKey));
 }
 
-TEST_F(TagoutCommandsTest, EventsFollowTheLastTagout) {
+TEST_F(TagoutCommandsTest, EventsFollowTheLastTagoutAndActionMethodsBlockControlAndRecordLocalBlocks) {
     Tagout("\"EVENT_FUNCTIONS\", \"SET_PRIORITY\" ,(\"ABC\",10)");
     Tagout("\"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Work on feeder cable\"");
     EXPECT_EQ(Object("ABC", 10).tagouts.priority, "High");
@@ -94,9 +95,6 @@ TEST_F(TagoutCommandsTest, EventsFollowTheLastTagout) {
     EXPECT_EQ(Object("ABC", 10).tagouts.priority, "");
     EXPECT_EQ(Object("ABC", 10).tagouts.tagText, "");
     EXPECT_EQ(Database().TagoutEvents().size(), 4u);
-}
-
-TEST_F(TagoutCommandsTest, ActionMethodsBlockControlAndRecordLocalBlocks) {
     Run("#return do(OVGR_TAGOUT_AM:C, \"CONTROL_BLOCK\", (\"ABC\",10),\"X\",\"\",\"ID1511202603344512\")");
     EXPECT_EQ(Attribute("ABC", 10, "CB"), 1);
     Run("#return do(OVGR_TAGOUT_AM:C, \"CONTROL_BLOCK\", (\"ABC\",10),\"-\",\"\",\"ID1511202603344512\")");
@@ -109,14 +107,12 @@ TEST_F(TagoutCommandsTest, ActionMethodsBlockControlAndRecordLocalBlocks) {
               Variant(tagout_error::kUnknownMethod));
 }
 
-TEST_F(TagoutCommandsTest, MiscFunctionsAnswerTextFromTheServerClock) {
+TEST_F(TagoutCommandsTest,
+       MiscFunctionsAnswerTextFromTheServerClockAndAnUnknownObjectOrMissingClassErrorCodes) {
     EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_DATE\""), Variant("2026-11-22"));
     EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_TIME\""), Variant("09:30:15"));
     EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"GET_ERRORMSG\", \"5007\""), Variant("No tagout class is defined"));
     EXPECT_EQ(Tagout("\"MISC_FUNCTIONS\",\"NOTIFY_TIME\",\"09:30\""), Variant(int32_t{0}));
-}
-
-TEST_F(TagoutCommandsTest, UnknownObjectAndMissingClassAnswerErrorCodes) {
     const Variant count = Tagout("\"GET_NACTIVE_TAGOUTS\", (\"ABC\",99)");
     ASSERT_EQ(TypeName(count), "Long");
     EXPECT_GE(count.AsLong(), 100);
