@@ -131,7 +131,9 @@ TEST_F(ServerCommandsTest,
     EXPECT_TRUE(result.IsEmpty());
 }
 
-TEST_F(ServerCommandsTest, SubstitutionListDescribesEverySignalOrOnlyTheSelectedOne) {
+TEST_F(
+    ServerCommandsTest,
+    SubstitutionListDescribesEverySignalOrTheSelectedOneAndSetsAndReleasesTheValueUnlessTheAddressIsUnknown) {
     const Variant answer = Run("#return do(BGU_CONTROL:C, (\"ABC\",10),\"GET_SUBSTITUTION\",\"en\",False)");
     EXPECT_EQ(Item(answer, "STATUS"), Variant(int32_t{0}));
     const Variant& signals = Item(answer, "SIGNALS");
@@ -150,9 +152,6 @@ TEST_F(ServerCommandsTest, SubstitutionListDescribesEverySignalOrOnlyTheSelected
     const Variant unknown = Run("#return do(BGU_CONTROL:C, (\"ABC\",99),\"GET_SUBSTITUTION\",\"en\",True)");
     EXPECT_EQ(Item(unknown, "STATUS"), Variant(int32_t{-1}));
     EXPECT_TRUE(Item(unknown, "MESSAGE").IsString());
-}
-
-TEST_F(ServerCommandsTest, SubstitutionSetsAndReleasesTheValueAndAnUnknownAddressChangesNothing) {
     EXPECT_EQ(Item(Run(Substitute(15, "1", "12.5")), "STATUS"), Variant(int32_t{0}));
     EXPECT_EQ(*Object("ABC", 15).Find("OV"), Variant(12.5));
     EXPECT_EQ(Attribute("ABC", 15, "SB"), 1);
@@ -164,11 +163,11 @@ TEST_F(ServerCommandsTest, SubstitutionSetsAndReleasesTheValueAndAnUnknownAddres
     EXPECT_EQ(Attribute("ABC", 10, "OV"), 1);
     EXPECT_EQ(Attribute("ABC", 10, "CV"), 998);
     // A signal address that names nothing: status -1 and no change.
-    const Variant answer = Run(
+    const Variant refused = Run(
         "#return "
         "do(BGU_CONTROL:C,(\"ABC\",10),\"SET_SUBSTITUTION\",LIST(LOGICAL_DEVICE=\"N/A\",LOGICAL_NODE=\"N/A\","
         "DATA_OBJECT=\"N/A\",DATA_ATTRIBUTE=\"N/A\",LN=\"ABC\",IX=11,ENABLED=1,VALUE=5,QUALITY=0))");
-    EXPECT_EQ(Item(answer, "STATUS"), Variant(int32_t{-1}));
+    EXPECT_EQ(Item(refused, "STATUS"), Variant(int32_t{-1}));
     EXPECT_EQ(Attribute("ABC", 11, "OV"), 1);
     EXPECT_EQ(Attribute("ABC", 11, "SB"), 0);
 }

@@ -33,7 +33,7 @@ class SubscriptionTest : public DemoServerTest {
     trovane::testing::RecordingDataCallback callback;
 };
 
-TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePump) {
+TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePumpAndRefreshResendsThemUntilRemoved) {
     int32_t handle = 0;
     Variant results;
     connection->AddItems(MakeLongArray({1, 2}, 1),
@@ -46,6 +46,17 @@ TEST_F(SubscriptionTest, CurrentValuesWaitForACallbackAndThePump) {
     EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(int32_t{998})});
     ASSERT_EQ(callback.ValuesOf(1).size(), 1u);
     EXPECT_EQ(callback.ValuesOf(1)[0].AsString().rfind("operator1#", 0), 0u);
+    // Refresh resends them, after the pump, until the subscription is removed.
+    Variant refreshed;
+    const size_t before = callback.notifications.size();
+    connection->RefreshItems(handle, 1, refreshed);
+    EXPECT_EQ(callback.notifications.size(), before);
+    EXPECT_EQ(connection->Pump(), 2);
+    EXPECT_EQ(callback.ValuesOf(2).back(), Variant(int32_t{998}));
+    connection->RemoveItems(handle);
+    Run("#SET ABC:PCV10=6");
+    connection->RefreshItems(handle, 1, refreshed);
+    EXPECT_EQ(connection->Pump(), 0);
 }
 
 TEST_F(SubscriptionTest,
@@ -94,22 +105,6 @@ TEST_F(SubscriptionTest, AcknowledgementClearsTheFlagAndWithBlockingNotifiesTheA
     Run("#return do(BGU_BLOCK:C, \"SET_BLOCKING_STATE\", (\"ABC\",12), (0,0,1,0,0,0), "
         "\"APPLY_TO_SELECTED\")");
     EXPECT_EQ(connection->Pump(), 1);
-}
-
-TEST_F(SubscriptionTest, RefreshResendsTheCurrentValuesUntilRemoved) {
-    const int32_t handle = Subscribe({"\\\\APL\\1\\P\\ABC\\10:CL"});
-    Variant results;
-    connection->RefreshItems(handle, 1, results);
-    EXPECT_TRUE(callback.notifications.empty());
-    connection->Pump();
-    EXPECT_EQ(callback.ValuesOf(1), std::vector<Variant>{Variant(int32_t{1000})});
-
-    Run("#SET ABC:PCL10=5");
-    connection->RemoveItems(handle);
-    Run("#SET ABC:PCL10=6");
-    connection->RefreshItems(handle, 1, results);
-    EXPECT_EQ(connection->Pump(), 0);
-    EXPECT_EQ(callback.notifications.size(), 1u);
 }
 
 TEST_F(SubscriptionTest, UnknownItemsAreRefusedPerItemAndMalformedArgumentsRaise) {
