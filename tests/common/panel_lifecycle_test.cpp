@@ -16,13 +16,10 @@
 namespace trovane::testing {
 namespace {
 
-TEST(PanelItemsTest, ItemPathsAndRequestListsCarryTheDeclaredHandles) {
+TEST(PanelItemsTest, ItemPathsNameTheApplicationObjectAndAttribute) {
     EXPECT_EQ(ItemPath(1, "ABC", "GC"), "\\\\APL\\1\\P\\ABC:GC");
     EXPECT_EQ(IndexedItemPath(1, "ABC", 10, "CO"), "\\\\APL\\1\\P\\ABC\\10:CO");
     EXPECT_EQ(ApplicationItemPath(1, "AT"), "\\\\APL\\1:AT");
-    const SubscriptionRequest request = BuildSubscriptionRequest({{1, "a", nullptr}, {4, "b", nullptr}});
-    EXPECT_EQ(request.itemPaths, Variant(VariantArray(ElementKind::String, 1, {"a", "b"})));
-    EXPECT_EQ(request.clientHandles, Variant(VariantArray(ElementKind::Long, 1, {1, 4})));
 }
 
 // A panel with items on handles 1, 3 and 4 (2 left out, as the operation counter does for some

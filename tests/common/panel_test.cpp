@@ -59,7 +59,7 @@ class PanelTest : public ::testing::Test {
     TraceCapture trace;
 };
 
-TEST_F(PanelTest, InitTracesSetsCaptionsAndCharsetThenAsksTheContainer) {
+TEST_F(PanelTest, InitTracesSetsCaptionsAndCharsetThenAsksTheContainerAndFailingNotificationsAreTraced) {
     Connection().QueueAnswer(Variant(int32_t{42}));
     CallMethod(Variant(ObjectRef(panel)), "Init");
     EXPECT_EQ(panel->lblCount.Caption(), "42");
@@ -71,6 +71,12 @@ TEST_F(PanelTest, InitTracesSetsCaptionsAndCharsetThenAsksTheContainer) {
     EXPECT_EQ(GetProperty(Variant(ObjectRef(panel)), "Shown"), Variant("42"));
     EXPECT_EQ(GetProperty(Variant(ObjectRef(panel)), "Parent"), container->AsVariant());
     EXPECT_TRUE(GetProperty(Variant(ObjectRef(panel)), "lblCount").IsObject());
+    // A failing notification is traced and goes no further.
+    panel->Activate(Connection().AsVariant());
+    Connection().Notify(1, {7}, {Variant(int32_t{5})});
+    EXPECT_EQ(panel->lblCount.Caption(), "5");
+    EXPECT_NO_THROW(Connection().Notify(1, {7}, {Variant("five")}));
+    EXPECT_EQ(trace.Lines().back(), "<- Counter.ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
 }
 
 TEST_F(PanelTest, TheContainerIsNotKeptAliveAndAGoneContainerIsNotSet) {
@@ -96,14 +102,6 @@ TEST_F(PanelTest, StatusIsWrittenBackOnlyWhenACommandWasSentAndRightsAreAskedByN
     EXPECT_TRUE(panel->Allowed());
     container->SetRight("IsBlockingHandlingAllowed", false);
     EXPECT_FALSE(panel->Allowed());
-}
-
-TEST_F(PanelTest, AFailingNotificationIsTracedAndGoesNoFurther) {
-    panel->Activate(Connection().AsVariant());
-    Connection().Notify(1, {7}, {Variant(int32_t{5})});
-    EXPECT_EQ(panel->lblCount.Caption(), "5");
-    EXPECT_NO_THROW(Connection().Notify(1, {7}, {Variant("five")}));
-    EXPECT_EQ(trace.Lines().back(), "<- Counter.ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
 }
 
 TEST(TracedOperationTest, ExitLinesAndWhatHappensToTheFailure) {
