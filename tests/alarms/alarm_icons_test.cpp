@@ -11,7 +11,7 @@ namespace {
 
 const IconDirectories kDirectories = IconDirectoriesFor("C:\\sc", "DEMO");
 
-TEST(AlarmIcons, ApplicationDirectoryWinsThenLibraryThenFallback) {
+TEST(AlarmIcons, ApplicationDirectoryWinsThenLibraryThenFallbackAndMissingFilesNeverShiftPositions) {
     testing::MemoryFiles files;
     files.Put(kDirectories.application + "AlarmLedNormal.ico", "app");
     files.Put(kDirectories.library + "AlarmLedNormal.ico", "lib");
@@ -23,10 +23,8 @@ TEST(AlarmIcons, ApplicationDirectoryWinsThenLibraryThenFallback) {
     EXPECT_EQ(LoadAlarmIcon(files, kDirectories, "AlarmLedBlocked.ico", fallback).name,
               kDirectories.library + "AlarmLedBlocked.ico");
     EXPECT_EQ(LoadAlarmIcon(files, kDirectories, "AlarmLedManual.ico", fallback), fallback);
-}
 
-TEST(AlarmIcons, MissingFilesNeverShiftPositions) {
-    testing::MemoryFiles files;
+    // Missing files never shift positions.
     files.Put(kDirectories.library + "AlarmLedFleeting.ico", "fleeting");
     files.Put(kDirectories.library + "AlarmLedSubstituted.ico", "substituted");
     ImageList images;

@@ -36,7 +36,7 @@ TEST(AlarmRows, OnlyAnUnacknowledgedAlarmIsTaggedAndAcknowledgeableAndAnAcknowle
     EXPECT_EQ(ClassifyAlarmElement(Signal("PERSISTING", Variant::Null()))->tag, "");  // Null: not waiting
 }
 
-TEST(AlarmRows, NonAlarmingStatesHaveNoKeyWhateverTheFlag) {
+TEST(AlarmRows, NonAlarmingStatesHaveNoKeyWhateverTheFlagAndUnknownOrMalformedElementsNoRow) {
     for (const AlarmState& state : kAlarmStates) {
         if (state.isAlarming) continue;
         const auto row = ClassifyAlarmElement(Signal(std::string(state.keyword).c_str(), true));
@@ -44,9 +44,6 @@ TEST(AlarmRows, NonAlarmingStatesHaveNoKeyWhateverTheFlag) {
         EXPECT_EQ(row->key + row->tag + "|" + row->identity, "|ABC:10");
         EXPECT_FALSE(row->ghosted);
     }
-}
-
-TEST(AlarmRows, UnknownOrMalformedElementsGiveNoRow) {
     EXPECT_FALSE(ClassifyAlarmElement(Signal("normal")));
     EXPECT_FALSE(ClassifyAlarmElement(Variant("PERSISTING")));
     EXPECT_FALSE(ClassifyAlarmElement(MakeVariantArray({"ABC", 10}, 1)));
