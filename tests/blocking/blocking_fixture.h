@@ -15,17 +15,18 @@ namespace trovane::testing {
 class BlockingPanelTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        connection().RespondWith([this](int16_t, const std::string& command) -> FakeConnection::Answer {
-            if (command.find("GET_ENABLED_BLOCKINGS") != std::string::npos) return {enabledBlockings, 0, {}};
-            if (command.find("GET_BLOCKING_STATE") != std::string::npos) return {blockingState, 0, {}};
-            return {Variant(0), 0, {}};
-        });
+        container->ConnectionObject().RespondWith(
+            [this](int16_t, const std::string& command) -> FakeConnection::Answer {
+                if (command.find("GET_ENABLED_BLOCKINGS") != std::string::npos)
+                    return {enabledBlockings, 0, {}};
+                if (command.find("GET_BLOCKING_STATE") != std::string::npos) return {blockingState, 0, {}};
+                return {Variant(0), 0, {}};
+            });
         panel->SetParent(container->AsVariant());
         panel->logicalName = "ABC";
         panel->baseIndex = 10;
     }
 
-    FakeConnection& connection() { return container->ConnectionObject(); }
     std::vector<std::string> Commands() const { return container->ConnectionObject().Commands(); }
     std::string LastCommand() const { return Commands().empty() ? "" : Commands().back(); }
     static Variant States(int16_t u, int16_t c, int16_t a, int16_t h, int16_t p, int16_t x) {

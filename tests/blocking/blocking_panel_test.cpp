@@ -77,7 +77,7 @@ TEST_F(BlockingPanelTest, OperatorClickEntersEditedStateAndOkWritesAllSixValuesR
     EXPECT_EQ(disableUpdate, Variant(false));
 }
 
-TEST_F(BlockingPanelTest, CancelRestoresStoredValuesAndSendsNothing) {
+TEST_F(BlockingPanelTest, CancelRestoresStoredValuesSendsNothingAndClearsAFailedRefresh) {
     blockingState = States(1, 0, 0, 0, 0, 0);
     panel->Init();
     const size_t sentBefore = Commands().size();
@@ -92,6 +92,14 @@ TEST_F(BlockingPanelTest, CancelRestoresStoredValuesAndSendsNothing) {
     EXPECT_TRUE(IsClean());
     EXPECT_FALSE(panel->isRefreshing);
     EXPECT_TRUE(panel->kindChanged[0]);  // left as it was
+    Check(1).Click();                    // Cancel also clears a failed refresh
+    blockingState = Variant();
+    panel->RefreshStates();
+    ASSERT_TRUE(panel->isRefreshing);
+    panel->btnCancel.Click();
+    EXPECT_FALSE(panel->isRefreshing);
+    Check(2).Click();
+    EXPECT_TRUE(panel->btnOK.Enabled());
 }
 
 TEST_F(BlockingPanelTest, ShortReadKeepsValuesAndLeavesRefreshingSet) {
@@ -107,18 +115,6 @@ TEST_F(BlockingPanelTest, ShortReadKeepsValuesAndLeavesRefreshingSet) {
     EXPECT_EQ(Check(1).Value(), 0);
     Check(1).Click();
     EXPECT_TRUE(IsClean());  // clicks are not edits until a refresh succeeds
-}
-
-TEST_F(BlockingPanelTest, CancelClearsAFailedRefresh) {
-    panel->Init();
-    Check(1).Click();
-    blockingState = Variant();
-    panel->RefreshStates();
-    ASSERT_TRUE(panel->isRefreshing);
-    panel->btnCancel.Click();
-    EXPECT_FALSE(panel->isRefreshing);
-    Check(2).Click();
-    EXPECT_TRUE(panel->btnOK.Enabled());
 }
 
 TEST_F(BlockingPanelTest, EmptyOrMalformedReadIsAnErrorExit) {
