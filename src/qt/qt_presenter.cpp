@@ -1,7 +1,8 @@
 #include "qt/qt_presenter.h"
 
+#include <algorithm>
+
 #include <QCoreApplication>
-#include <QEvent>
 
 #include "qt/twips.h"
 
@@ -43,7 +44,6 @@ FormView* QtPresenter::TakeBackReleased(const Form& form) {
     std::erase_if(released, [&](const QPointer<FormView>& view) {
         if (view.isNull()) return true;
         if (taken || &view->Model() != &form) return false;
-        QCoreApplication::removePostedEvents(view.data(), QEvent::DeferredDelete);
         taken = view.data();
         return true;
     });
@@ -115,8 +115,19 @@ void QtPresenter::Dismiss(Form& form) {
     presented.erase(form.Hwnd());
     form.SetHwnd(0);
     view->hide();
-    view->deleteLater();
     released.push_back(view);
+    // The deletion is decided from the event loop, after whatever click unloaded the form, so that a
+    // presentation in the same event can still take the window back. deleteLater itself cannot be
+    // taken back: once called, Qt ignores every later call for that object.
+    QMetaObject::invokeMethod(
+        view.data(), [this, view] { DeleteIfStillReleased(view); }, Qt::QueuedConnection);
+}
+
+void QtPresenter::DeleteIfStillReleased(const QPointer<FormView>& view) {
+    const auto found = std::find(released.begin(), released.end(), view);
+    if (found == released.end() || view.isNull()) return;
+    released.erase(found);
+    view->deleteLater();
 }
 
 // A form placed somewhere (anywhere but the origin, where forms start) puts its window there; one

@@ -46,6 +46,7 @@ class QtPresenter final : public Presenter {
     // The presentation of the form, or nullptr; one whose view its owner took along is forgotten.
     Presentation* Find(const Form& form);
     FormView* TakeBackReleased(const Form& form);
+    void DeleteIfStillReleased(const QPointer<FormView>& view);
     std::vector<ScopedConnection> Watch(Form& form, int32_t hwnd);
     void DismissIfUnloaded(int32_t hwnd);
     void Place(FormView& view);

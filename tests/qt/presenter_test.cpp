@@ -37,10 +37,13 @@ class QtPresenterTest : public ::testing::Test {
         return form;
     }
 
-    // Runs what the event loop would: queued calls, then the deletions they asked for.
+    // Runs what the event loop would until it is idle: queued calls, the calls they queue in turn,
+    // and the deletions they asked for.
     static void LetTheEventLoopRun() {
-        QCoreApplication::processEvents();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (int round = 0; round < 3; ++round) {
+            QCoreApplication::processEvents();
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
     }
 
     QtPlatform platform = MakeQtPlatform();
@@ -138,6 +141,19 @@ TEST_F(QtPresenterTest, PresentingAgainBeforeTheReleaseTakesTheSameWindowBack) {
     LetTheEventLoopRun();
     EXPECT_EQ(presenter.ViewOf(*dialog), view);
     EXPECT_TRUE(view->isVisible());
+
+    // A window taken back is still deleted when its form goes for good, even after an unload that
+    // a handler cancelled.
+    bool keep = true;
+    SignalConnection keeper = dialog->onUnload.Connect([&](bool& cancel) { cancel = keep; });
+    dialog->Unload();
+    LetTheEventLoopRun();
+    EXPECT_TRUE(view->isVisible());
+    keep = false;
+    view->close();
+    LetTheEventLoopRun();
+    EXPECT_TRUE(view.isNull());
+    keeper.Disconnect();
 }
 
 TEST_F(QtPresenterTest, ACancelledUnloadKeepsTheWindowAndClosingItUnloads) {
