@@ -6,10 +6,12 @@
 namespace trovane {
 
 namespace {
+const Variant kMissing;
+
 // The element counted from the array's first element as 1, or Empty when the vector is shorter.
-Variant ElementAt(const VariantArray& vector, int32_t oneBased) {
+const Variant& ElementAt(const VariantArray& vector, int32_t oneBased) {
     const int64_t index = static_cast<int64_t>(vector.LowerBound()) + oneBased - 1;
-    return vector.Contains(index) ? vector.At(index) : Variant();
+    return vector.Contains(index) ? vector.At(index) : kMissing;
 }
 
 // Null (the server's "unknown") counts as not unacknowledged, and so does anything that does not
@@ -52,7 +54,7 @@ bool CanBeAcknowledged(const std::string& key, const std::string& tag) {
 std::optional<AlarmRow> ClassifyAlarmElement(const Variant& element) {
     if (!element.IsArray()) return std::nullopt;
     const VariantArray& vector = element.AsArray();
-    const Variant keyword = ElementAt(vector, 4);
+    const Variant& keyword = ElementAt(vector, 4);
     const AlarmState* state = keyword.IsString() ? ClassifyAlarmState(keyword.AsString()) : nullptr;
     if (state == nullptr) return std::nullopt;
 

@@ -2,6 +2,8 @@
 
 #include "alarms/alarms.h"
 
+#include <algorithm>
+
 #include "core/checked_int.h"
 #include "core/conversions.h"
 
@@ -25,6 +27,7 @@ bool Alarms::IsAlarmHandlingAllowed() const {
 void Alarms::RefreshAlarms() {
     if (DisableUpdate) return;
     rowIdentities.clear();
+    stateTexts.clear();
     EnsureColumns();
     ListView1.ClearItems();
     const Variant alarmList = services.GetListItem(CallContainer("GetAlarms"), "COMBO_LIST");
@@ -42,13 +45,15 @@ ListItem* Alarms::AddRows(const Variant& alarmList) {
     if (!alarmList.IsArray()) return nullptr;  // no alarm list: an empty view
     const VariantArray& elements = alarmList.AsArray();
     const int16_t upper = UpperBound16(elements.UpperBound());
+    rowIdentities.reserve(static_cast<size_t>(std::max<int16_t>(upper, 0)));
     ListItem* reselected = nullptr;
     for (int32_t i = 1; i <= upper; ++i) {
-        const std::optional<AlarmRow> row =
-            ClassifyAlarmElement(elements.Contains(i) ? elements.At(i) : Variant());
+        if (!elements.Contains(i)) continue;  // below a list's lower bound: Empty, which is no row
+        std::optional<AlarmRow> row = ClassifyAlarmElement(elements.At(i));
         if (!row) continue;
-        ListItem* item = AddRow(*row);
-        if (CanSelectSingleBlocking && row->identity == rememberedSignal) {
+        const bool isRemembered = CanSelectSingleBlocking && row->identity == rememberedSignal;
+        ListItem* item = AddRow(std::move(*row));
+        if (isRemembered) {
             ListView1.SelectItem(item);
             reselected = item;
         }
@@ -72,13 +77,21 @@ void Alarms::EnsureColumns() {
     ListView1.AddColumn(GetNlsString(kAlarmStateTextId));
 }
 
-ListItem* Alarms::AddRow(const AlarmRow& row) {
-    ListItem& item = ListView1.AddItem("", row.key, row.state->iconPosition);
-    rowIdentities.push_back(row.identity);
-    item.SetSubItem(1, row.signalText);
-    item.SetSubItem(2, GetNlsString(row.state->stateTextId));
+// The nine state texts come from the container once per refresh, not once per row.
+const std::string& Alarms::StateText(const AlarmState& state) {
+    auto found = stateTexts.find(state.stateTextId);
+    if (found == stateTexts.end())
+        found = stateTexts.emplace(state.stateTextId, GetNlsString(state.stateTextId)).first;
+    return found->second;
+}
+
+ListItem* Alarms::AddRow(AlarmRow&& row) {
+    ListItem& item = ListView1.AddItem("", std::move(row.key), row.state->iconPosition);
+    rowIdentities.push_back(std::move(row.identity));
+    item.SetSubItem(1, std::move(row.signalText));
+    item.SetSubItem(2, StateText(*row.state));
     if (!row.tag.empty()) {
-        item.SetTag(row.tag);
+        item.SetTag(std::move(row.tag));
         anyUnacknowledged = true;
     }
     // An alarm that can no longer be acknowledged is drawn greyed.

@@ -17,6 +17,7 @@
 // own members answer by name as well.
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -73,7 +74,8 @@ class Alarms : public Panel {
     void LoadIcons();
     void EnsureColumns();
     ListItem* AddRows(const Variant& alarmList);
-    ListItem* AddRow(const AlarmRow& row);
+    ListItem* AddRow(AlarmRow&& row);
+    const std::string& StateText(const AlarmState& state);
     void FollowRememberedSignal(const ListItem* reselected);
     void SelectRow(bool freezeUpdates);
     void HandOverSignal(const std::string& identity);
@@ -87,6 +89,7 @@ class Alarms : public Panel {
     std::vector<std::string> rowIdentities;
     bool anyUnacknowledged = false;
     std::string rememberedSignal;
+    std::map<int32_t, std::string> stateTexts;  // by text id, for the refresh under way
 };
 
 }  // namespace trovane

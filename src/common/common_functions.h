@@ -10,6 +10,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,7 +24,7 @@ class Form;
 class KeyedCollection;
 
 class CommonFunctions : public Object {
-public:
+  public:
     explicit CommonFunctions(PlatformServices platform = PlatformServices::Defaults());
     ~CommonFunctions() override;
     CommonFunctions(const CommonFunctions&) = delete;
@@ -37,7 +38,8 @@ public:
     // ---- Command channel --------------------------------------------------------------------
     Variant RunVexlCmdGlobalWithStatus(const Variant& argCommunication, const std::string& vexlCmd,
                                        int16_t Application, int32_t& status);
-    Variant RunVexlCmdGlobal(const Variant& argCommunication, const std::string& vexlCmd, int16_t Application);
+    Variant RunVexlCmdGlobal(const Variant& argCommunication, const std::string& vexlCmd,
+                             int16_t Application);
     void DebugInfo(const std::string& infoText);
 
     // ---- Value lists ------------------------------------------------------------------------
@@ -45,6 +47,8 @@ public:
     void AddListAttribute(Variant& vexlList, const std::string& attName, const Variant& attValue);
     Variant SetListAttribute(Variant& vexlList, const std::string& attName, const Variant& attValue);
     Variant GetListItem(const Variant& list, const std::string& itemName);
+    // The same for a list the caller is done with: the item is moved out instead of copied.
+    Variant GetListItem(Variant&& list, const std::string& itemName);
     Variant GetListItemDef(const Variant& list, const std::string& itemName, const Variant& defaultValue);
     void SetStringReplacementList(const Variant& list);
     // The replacement text under a key ("ID1234"), or "" when there is none or it is not text.
@@ -86,7 +90,10 @@ public:
     // The number of commands this instance has sent.
     Counter32 commandCounter;
 
-private:
+  private:
+    // The position of the value that follows the name, traced as GetListItem; nothing when absent.
+    std::optional<int32_t> FindListItem(const Variant& list, const std::string& itemName);
+
     PlatformServices platform_;
 
     // Value lists: the host's text replacements (keyed, case-insensitive) and the list as given.

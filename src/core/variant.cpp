@@ -1,5 +1,7 @@
 #include "core/variant.h"
 
+#include <utility>
+
 #include "core/conversions.h"
 #include "core/error.h"
 #include "core/object.h"
@@ -130,6 +132,11 @@ const Variant& VariantArray::At(int64_t index) const {
 void VariantArray::Set(int64_t index, Variant value) {
     if (!Contains(index)) throw Error(ErrorNumber::SubscriptOutOfRange);
     elements_[static_cast<size_t>(index - lowerBound_)] = CoerceElement(kind_, std::move(value));
+}
+
+Variant VariantArray::Take(int64_t index) {
+    if (!Contains(index)) throw Error(ErrorNumber::SubscriptOutOfRange);
+    return std::exchange(elements_[static_cast<size_t>(index - lowerBound_)], DefaultElement(kind_));
 }
 
 void VariantArray::ResizePreserve(int32_t newUpperBound) {

@@ -163,6 +163,8 @@ class VariantArray {
     const Variant& At(int64_t index) const;
     // Stores a value, converted to the element kind (a failed conversion raises its error).
     void Set(int64_t index, Variant value);
+    // Moves an element out, leaving the kind's default in its place; for a caller done with the array.
+    Variant Take(int64_t index);
     // Resizes to a new upper bound keeping the contents (ReDim Preserve).
     void ResizePreserve(int32_t newUpperBound);
     void Append(Variant value) {

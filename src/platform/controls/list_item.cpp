@@ -29,10 +29,11 @@ void ListItem::SetGhosted(bool ghosted) {
     Update(ghosted_, ghosted);
 }
 
-std::string ListItem::SubItem(int32_t i) const {
+const std::string& ListItem::SubItem(int32_t i) const {
+    static const std::string unset;
     if (i < 1) throw InvalidPropertyValue();
     const auto slot = static_cast<size_t>(i - 1);
-    return slot < subItems_.size() ? subItems_[slot] : std::string();
+    return slot < subItems_.size() ? subItems_[slot] : unset;
 }
 
 void ListItem::SetSubItem(int32_t i, std::string text) {

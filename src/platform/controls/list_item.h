@@ -31,7 +31,7 @@ class ListItem {
     bool Ghosted() const { return ghosted_; }
     void SetGhosted(bool ghosted);
     // Sub-item i (1-based) is the text of column i + 1; unset ones read as "". i < 1 raises 380.
-    std::string SubItem(int32_t i) const;
+    const std::string& SubItem(int32_t i) const;
     void SetSubItem(int32_t i, std::string text);
     bool Selected() const { return selected_; }
     void SetSelected(bool selected);  // selecting one row deselects the others

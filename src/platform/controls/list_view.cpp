@@ -57,9 +57,18 @@ void ListView::ClearColumns() {
 ListItem& ListView::AddItem(std::string text, std::string key, int32_t smallIcon) {
     if (!key.empty() && FindItem(key) != nullptr) throw KeyNotUnique();
     items_.push_back(std::make_unique<ListItem>(*this, std::move(text), std::move(key), smallIcon));
-    items_.back()->index_ = ItemCount();
+    ListItem& item = *items_.back();
+    if (!item.Key().empty()) {
+        try {
+            rowsByKey_.emplace(item.Key(), &item);
+        } catch (...) {
+            items_.pop_back();  // a row the index does not know must not stay in the list
+            throw;
+        }
+    }
+    item.index_ = ItemCount();
     onListChanged.Emit(ListViewChange::RowAdded, ItemCount());
-    return *items_.back();
+    return item;
 }
 
 ListItem& ListView::Item(int32_t index) const {
@@ -69,14 +78,14 @@ ListItem& ListView::Item(int32_t index) const {
 
 ListItem* ListView::FindItem(std::string_view key) const {
     if (key.empty()) return nullptr;
-    const auto found =
-        std::find_if(items_.begin(), items_.end(), [&](const auto& item) { return item->Key() == key; });
-    return found == items_.end() ? nullptr : found->get();
+    const auto found = rowsByKey_.find(key);
+    return found == rowsByKey_.end() ? nullptr : found->second;
 }
 
 void ListView::RemoveItem(int32_t index) {
     ListItem& item = Item(index);
     if (selected_ == &item) SelectItem(nullptr);
+    if (!item.Key().empty()) rowsByKey_.erase(item.Key());
     items_.erase(items_.begin() + (index - 1));
     Renumber();
     onListChanged.Emit(ListViewChange::RowRemoved, index);
@@ -85,6 +94,7 @@ void ListView::RemoveItem(int32_t index) {
 void ListView::ClearItems() {
     if (items_.empty()) return;
     selected_ = nullptr;
+    rowsByKey_.clear();
     items_.clear();
     onListChanged.Emit(ListViewChange::RowsCleared, 0);
 }

@@ -2,13 +2,16 @@
 // ListView: a report-style list with column headers, rows and a small-icon image list.
 //
 // Columns and rows are numbered from 1 (error 35600 outside); a non-empty row key must be unique
-// (error 35602). One row at most is selected. Program code selects with SelectItem and raises no
-// event; the operator clicks a row (ClickItem: selection, then ItemClick, then Click) or moves the
-// selection with the navigation keys (PressKey with 38/40 up/down, 33/34 a page of 10 rows, 36/35
-// first/last row: KeyDown, the move, KeyUp). Every change of rows, columns and images is reported
-// through onListChanged with the 1-based position concerned (0 for the whole list).
+// (error 35602); an index from key to row keeps adding, finding and removing rows independent of
+// the list's length, so a refresh of N rows costs N steps, not N squared. One row at most is selected.
+// Program code selects with SelectItem and raises no event; the operator clicks a row (ClickItem: selection,
+// then ItemClick, then Click) or moves the selection with the navigation keys (PressKey with 38/40 up/down,
+// 33/34 a page of 10 rows, 36/35 first/last row: KeyDown, the move, KeyUp). Every change of rows, columns and
+// images is reported through onListChanged with the 1-based position concerned (0 for the whole list).
 
 #include <memory>
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/controls/control.h"
@@ -73,6 +76,7 @@ class ListView : public Control {
 
     std::vector<ColumnHeader> columns_;
     std::vector<std::unique_ptr<ListItem>> items_;
+    std::unordered_map<std::string_view, ListItem*> rowsByKey_;  // views of the rows' own keys
     ListItem* selected_ = nullptr;
     ImageList smallIcons_;
 };

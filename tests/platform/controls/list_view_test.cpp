@@ -73,9 +73,14 @@ TEST_F(ListViewTest, KeysAndPositionsAreCheckedAndRemovingRenumbers) {
     EXPECT_EQ(list.SelectedItem(), nullptr);
     EXPECT_EQ(list.Item(3).Key(), "K4");
     EXPECT_EQ(list.Item(3).Index(), 3);
+    EXPECT_EQ(list.FindItem("K3"), nullptr);  // a removed key is free again
+    EXPECT_EQ(list.AddItem("again", "K3").Index(), 27);
+    EXPECT_EQ(list.FindItem("K3"), &list.Item(27));
     list.ClearItems();
+    EXPECT_EQ(list.FindItem("K4"), nullptr);
     list.PressKey(40);  // nothing to select
     EXPECT_EQ(list.SelectedItem(), nullptr);
+    EXPECT_EQ(list.AddItem("fresh", "K4").Index(), 1);
 }
 
 // Rows, columns and images report only real changes; images keep fixed one-based positions.
