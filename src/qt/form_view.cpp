@@ -151,8 +151,18 @@ void FormView::ShowSize() {
 }
 
 int32_t FormView::MeasureText(std::string_view text) const {
+    constexpr size_t kMostRemembered = 100000;  // a bound for lists whose texts never repeat
+    if (const auto found = measuredWidths.find(text); found != measuredWidths.end()) return found->second;
+    if (measuredWidths.size() >= kMostRemembered) measuredWidths.clear();
     const QFontMetrics metrics(font());
-    return PixelsToTwips(metrics.horizontalAdvance(ToQString(std::string(text))), scale.x);
+    const int32_t width = PixelsToTwips(metrics.horizontalAdvance(ToQString(text)), scale.x);
+    measuredWidths.emplace(text, width);
+    return width;
+}
+
+void FormView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::FontChange) measuredWidths.clear();
+    QWidget::changeEvent(event);
 }
 
 }  // namespace trovane::qt

@@ -5,12 +5,16 @@
 // form holds and for every control added later, puts controls placed in a frame inside that
 // frame's widget, and follows the form's caption (the window title), size (twips scaled to the
 // screen) and visibility. It lends the form its font for TextWidth, so column fitting measures
-// what the operator sees. The view keeps the form alive; its connections to the form's and the
-// controls' signals are scoped, so they end with the view (or with the binding of a control that
-// is removed).
+// what the operator sees, and remembers each text's width until the font changes. The view keeps the form
+// alive; its connections to the form's and the controls' signals are scoped, so they end with the view (or
+// with the binding of a control that is removed).
 
+#include <functional>
 #include <map>
 #include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include <QWidget>
@@ -44,6 +48,7 @@ class FormView final : public QWidget {
     void ShowSize();
     void PressButton(bool defaultButton);
     int32_t MeasureText(std::string_view text) const;
+    void changeEvent(QEvent* event) override;
 
     struct Bound {
         std::unique_ptr<ControlBinding> binding;
@@ -54,6 +59,14 @@ class FormView final : public QWidget {
     TwipsScale scale;
     std::map<const Control*, Bound> bindings;
     std::vector<ScopedConnection> formConnections;
+
+    // Widths in twips by text, for the form's current font: column fitting measures every cell of a
+    // list on every refresh, and most of its texts repeat.
+    struct TextHash {
+        using is_transparent = void;
+        size_t operator()(std::string_view text) const { return std::hash<std::string_view>{}(text); }
+    };
+    mutable std::unordered_map<std::string, int32_t, TextHash, std::equal_to<>> measuredWidths;
 };
 
 }  // namespace trovane::qt

@@ -1,23 +1,19 @@
 #pragma once
-// Binding of the report-style list view to a tree widget without branches.
+// Binding of the report-style list view to a tree view without branches.
 //
-// Columns, rows, small icons and the ghosted (greyed) state follow the model's change reports: one
-// row is updated where the report names one, the whole list is rebuilt otherwise. Selection is the
-// model's: a click on a row becomes ClickItem and the navigation keys become the model's PressKey,
-// and the widget only shows the row the model selected. A ghosted row is drawn in the disabled
-// palette colour with the disabled form of its icon.
-
-#include <vector>
-
-#include <QIcon>
+// The rows, icons and ghosting are the ListViewModel's (a table model that reads the headless list
+// for the cells on screen); the binding adds what belongs to the widget: the column widths, and the
+// selection. Selection is the list's: a click on a row becomes ClickItem and the navigation keys
+// become the list's PressKey, and the view only shows the row the list selected.
 
 #include "platform/controls/list_view.h"
 #include "qt/control_binding.h"
 
-class QTreeWidget;
-class QTreeWidgetItem;
+class QTreeView;
 
 namespace trovane::qt {
+
+class ListViewModel;
 
 class ListViewBinding final : public ControlBinding {
   public:
@@ -33,15 +29,12 @@ class ListViewBinding final : public ControlBinding {
   private:
     ListView& List() const { return static_cast<ListView&>(Model()); }
     void OnListChanged(ListViewChange change, int32_t position);
-    void ShowColumns();
+    void ShowColumnWidths();
     int WholePixels(int32_t twips) const;
-    void ShowImages();
-    void ShowRows();
-    void ShowRow(QTreeWidgetItem* row, const ListItem& item);
     void ShowSelection();
 
-    QTreeWidget* tree = nullptr;
-    std::vector<QIcon> icons;
+    QTreeView* tree = nullptr;
+    ListViewModel* rows = nullptr;
     ScopedConnection listConnection;
 };
 

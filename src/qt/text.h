@@ -15,8 +15,8 @@
 
 namespace trovane::qt {
 
-inline QString ToQString(const std::string& text) {
-    return QString::fromStdString(text);
+inline QString ToQString(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 inline std::string ToModelText(const QString& text) {
     return text.toStdString();

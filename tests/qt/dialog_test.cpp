@@ -12,7 +12,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTreeWidget>
+#include <QTreeView>
 
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
@@ -21,6 +21,7 @@
 #include "dialog_window.h"
 #include "screenshot.h"
 #include "support/qt_application.h"
+#include "support/qt_list.h"
 
 namespace trovane::dialog {
 namespace {
@@ -44,7 +45,10 @@ class DialogTest : public ::testing::Test {
         qt::FormView* view = window->ViewOf(form);
         return view ? view->WidgetOf(control) : nullptr;
     }
-    QTreeWidget* AlarmList() const { return qobject_cast<QTreeWidget*>(Widget("Alarms", "ListView1")); }
+    QTreeView* AlarmList() const { return qobject_cast<QTreeView*>(Widget("Alarms", "ListView1")); }
+    std::string AlarmCell(int row, int column) const {
+        return AlarmList()->model()->index(row, column).data().toString().toStdString();
+    }
     QCheckBox* BlockingBox(const char* name) const {
         return qobject_cast<QCheckBox*>(Widget("Blocking", name));
     }
@@ -55,9 +59,8 @@ class DialogTest : public ::testing::Test {
     Blocking& BlockingPanel() const { return *host->Panels().FindAs<Blocking>(kBlockingSite); }
 
     void ClickRow(int row) {
-        QTreeWidget* list = AlarmList();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->topLevelItem(row)).center());
+        QTreeView* list = AlarmList();
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, testing::CentreOfRow(*list, row));
     }
     static void Click(QWidget* widget) {
         ASSERT_NE(widget, nullptr);
@@ -101,12 +104,12 @@ class DialogTest : public ::testing::Test {
 // signal; acknowledging the selected alarm, then all, reaches the server and the list follows.
 TEST_F(DialogTest, OpensSelectsAnAlarmAndAcknowledgesItThenAll) {
     Open();
-    QTreeWidget* list = AlarmList();
+    QTreeView* list = AlarmList();
     ASSERT_NE(list, nullptr);
-    ASSERT_EQ(list->topLevelItemCount(), 10);
-    EXPECT_EQ(list->headerItem()->text(1), "Object text");
-    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(1), "Breaker trip");
-    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(2), "Persisting");
+    ASSERT_EQ(testing::ShownRows(*list).size(), 10u);
+    EXPECT_EQ(testing::HeaderText(*list, 1), "Object text");
+    EXPECT_EQ(AlarmCell(kBreakerTripRow, 1), "Breaker trip");
+    EXPECT_EQ(AlarmCell(kBreakerTripRow, 2), "Persisting");
     EXPECT_EQ(BlockingBox("Check1")->text(), "Update");
     EXPECT_EQ(BlockingBox("Check3")->checkState(), Qt::PartiallyChecked);  // one signal blocks alarms
     EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
@@ -117,12 +120,12 @@ TEST_F(DialogTest, OpensSelectsAnAlarmAndAcknowledgesItThenAll) {
     EXPECT_EQ(BlockingPanel().logicalName, "ABC");
     EXPECT_EQ(BlockingPanel().baseIndex, 11);
     EXPECT_TRUE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
-    EXPECT_TRUE(list->topLevelItem(kBreakerTripRow)->isSelected());
+    EXPECT_TRUE(list->selectionModel()->isRowSelected(kBreakerTripRow));
 
     Click(Button("Alarms", "btnAckSelected"));
     EXPECT_EQ(ServerAlarmState(11), "ACTIVE_ACKNOWLEDGED");
     window->Settle();
-    EXPECT_EQ(list->topLevelItem(kBreakerTripRow)->text(2), "Acknowledged");
+    EXPECT_EQ(AlarmCell(kBreakerTripRow, 2), "Acknowledged");
     EXPECT_FALSE(Button("Alarms", "btnAckSelected")->isEnabled());
     Click(Button("Alarms", "btnAck"));
     window->Settle();
