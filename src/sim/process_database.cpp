@@ -156,6 +156,7 @@ Variant ProcessDatabase::ReadObjectAttribute(const ObjectGroup& group, const Pro
                                              const std::string& attribute) const {
     if (attribute == "LN") return group.name;
     if (attribute == "IX") return object.index;
+    if (auto indication = object.tagouts.IndicationAttribute(attribute)) return *indication;
     if (const Variant* value = object.Find(attribute)) return *value;
     const auto found = group.attributes.find(attribute);
     if (found != group.attributes.end()) return found->second;

@@ -1,9 +1,9 @@
 // OVGR_TAGOUT:C event and miscellaneous functions, and the tagout error messages.
 //
-// The event functions drive the object's tag indication: its priority follows the PRIORITY of the
-// object's last active tagout, its tag text is what the panel sends; the reset forms clear them.
-// Every call is kept in the server's tagout event log. The miscellaneous functions give the
-// server's date and time as text and the message of an error code.
+// The event functions drive the object's tag indication ("TP", "TT"): its priority follows the
+// PRIORITY of the object's last active tagout, its tag text is what the panel sends; the reset forms
+// clear them. Subscribers see each change; every call is kept in the server's tagout event log. The
+// miscellaneous functions give the server's date and time as text and the message of an error code.
 
 #include <cstdio>
 #include <map>
@@ -52,6 +52,18 @@ std::string TagoutErrorMessage(int32_t code) {
     return found == kMessages.end() ? "Unknown tagout error " + std::to_string(code) : found->second;
 }
 
+void SetTagIndication(ProcessDatabase& database, const ObjectAddress& address, const std::string& attribute,
+                      const std::function<void(ObjectTagouts&)>& change) {
+    ProcessObject& object = database.Object(address.name, address.index);
+    const auto before = object.tagouts.IndicationAttribute(attribute);
+    change(object.tagouts);
+    if (object.tagouts.IndicationAttribute(attribute) == before) return;
+    database.ReportChange({address.name, address.index, attribute});
+    // Subscribers of the attribute without an index watch the main object.
+    if (database.Group(address.name).MainObject() == &object)
+        database.ReportChange({address.name, std::nullopt, attribute});
+}
+
 Variant TagoutEventFunction(ProcessDatabase& database, std::span<const Variant> args) {
     const std::string event = TextArgument(args, 1);
     const ObjectAddress address = ObjectArgument(args, 2);
@@ -59,13 +71,15 @@ Variant TagoutEventFunction(ProcessDatabase& database, std::span<const Variant> 
     if (!object) return tagout_error::kUnknownObject;
     std::string value;
     if (event == "SET_PRIORITY") {
-        value = object->tagouts.priority = LastPriority(*object);
+        value = LastPriority(*object);
+        SetTagIndication(database, address, "TP", [&](ObjectTagouts& tagouts) { tagouts.priority = value; });
     } else if (event == "RESET_PRIORITY") {
-        object->tagouts.priority.clear();
+        SetTagIndication(database, address, "TP", [](ObjectTagouts& tagouts) { tagouts.priority.clear(); });
     } else if (event == "SET_TAGTEXT") {
-        value = object->tagouts.tagText = ToString(Argument(args, 3));
+        value = ToString(Argument(args, 3));
+        SetTagIndication(database, address, "TT", [&](ObjectTagouts& tagouts) { tagouts.tagText = value; });
     } else if (event == "RESET_TAGTEXT") {
-        object->tagouts.tagText.clear();
+        SetTagIndication(database, address, "TT", [](ObjectTagouts& tagouts) { tagouts.tagText.clear(); });
     } else {
         ThrowWrongArgument("unknown tagout event " + event);
     }

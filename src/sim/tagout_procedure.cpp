@@ -2,7 +2,8 @@
 //
 // A tagout is stored on one process object under its key. Adding fills every class attribute with
 // its default and makes the caller the owner; editing checks the attribute and its maximum length.
-// Removing takes a tagout off the object but keeps it until it is deleted.
+// Removing takes a tagout off the object but keeps it until it is deleted. Without a tagout class
+// the storage requests answer 5007, as the class queries do.
 
 #include <cstdio>
 #include <optional>
@@ -50,7 +51,6 @@ Variant AddEmptyTagout(ProcessDatabase& database, ProcessObject& object, std::sp
     if (key.empty()) return tagout_error::kEmptyKey;
     if (object.tagouts.FindActive(key)) return tagout_error::kDuplicateKey;
     if (object.tagouts.active.size() >= kMostTagouts) return tagout_error::kTooManyTagouts;
-    if (!database.Tagouts()) return tagout_error::kNoClass;
     Tagout tagout{key, {}};
     for (const auto& attribute : database.Tagouts()->attributes)
         tagout.values[attribute.name] = attribute.defaultValue;
@@ -63,7 +63,7 @@ Variant EditValue(ProcessDatabase& database, ProcessObject& object, std::span<co
     Tagout* tagout = object.tagouts.FindActive(TextArgument(args, 2));
     if (!tagout) return tagout_error::kUnknownTagout;
     const std::string name = UpperName(TextArgument(args, 3));
-    const TagoutAttribute* attribute = database.Tagouts() ? database.Tagouts()->Find(name) : nullptr;
+    const TagoutAttribute* attribute = database.Tagouts()->Find(name);
     if (!attribute) return tagout_error::kUnknownAttribute;
     const std::string value = ToString(Argument(args, 4));
     if (attribute->maxLength > 0 && value.size() > static_cast<size_t>(attribute->maxLength))
@@ -125,6 +125,7 @@ std::optional<Variant> ObjectRequest(ProcessDatabase& database, const std::strin
                                                     "REMOVE_TAGOUT",
                                                     "DELETE_TAGOUT"};
     if (!kRequests.contains(request)) return std::nullopt;
+    if (!database.Tagouts()) return Variant(tagout_error::kNoClass);
     ProcessObject* object = TagoutObject(database, args);
     if (!object) return Variant(tagout_error::kUnknownObject);
     if (request == "GET_NACTIVE_TAGOUTS") return CountTagouts(*object);

@@ -6,11 +6,13 @@
 // below 100, so the panel can tell a count from a code.
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
 
 #include "core/variant.h"
+#include "sim/procedure_arguments.h"
 #include "sim/process_database.h"
 
 namespace trovane::sim {
@@ -37,6 +39,11 @@ std::string TagoutErrorMessage(int32_t code);
 // not one of them.
 std::optional<Variant> TagoutClassRequest(ProcessDatabase& database, const std::string& request,
                                           std::span<const Variant> args);
+
+// Stores one of the object's tag indication attributes ("TP", "TT", "LB") and, when it changed,
+// tells every subscriber of the object.
+void SetTagIndication(ProcessDatabase& database, const ObjectAddress& address, const std::string& attribute,
+                      const std::function<void(ObjectTagouts&)>& change);
 
 // "EVENT_FUNCTIONS" and "MISC_FUNCTIONS".
 Variant TagoutEventFunction(ProcessDatabase& database, std::span<const Variant> args);

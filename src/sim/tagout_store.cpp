@@ -16,4 +16,13 @@ Tagout* ObjectTagouts::FindActive(const std::string& key) {
     return nullptr;
 }
 
+std::optional<std::string> ObjectTagouts::IndicationAttribute(const std::string& attribute) const {
+    if (attribute == "TP") return priority;
+    if (attribute == "TT") return tagText;
+    if (attribute != "LB") return std::nullopt;
+    std::string devices;
+    for (const auto& device : localBlocks) devices += (devices.empty() ? "" : ",") + device;
+    return devices;
+}
+
 }  // namespace trovane::sim

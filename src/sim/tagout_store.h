@@ -11,10 +11,16 @@
 //
 // Values are text, as the panels exchange them; a check box holds "X" or "-". A removed tagout is
 // kept aside until it is deleted, so removal and deletion are two steps as on the real server.
+//
+// Tagouts drive the object's tag indication, which every workstation reads and subscribes as
+// attributes of the object: "TP" the priority, "TT" the tag text (both set by the event functions),
+// and "LB" the devices whose local operation a tagout blocks (LOCAL_BLOCK), in order, separated by
+// commas.
 
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -53,8 +59,11 @@ struct ObjectTagouts {
     std::vector<Tagout> removed;
     std::string priority;  // set by SET_PRIORITY from the last active tagout, cleared by RESET_PRIORITY
     std::string tagText;   // set by SET_TAGTEXT, cleared by RESET_TAGTEXT
+    std::set<std::string> localBlocks;  // devices blocked by LOCAL_BLOCK "X", released by "-"
 
     Tagout* FindActive(const std::string& key);
+    // The indication attribute "TP", "TT" or "LB" (upper case), or nothing for any other name.
+    std::optional<std::string> IndicationAttribute(const std::string& attribute) const;
 };
 
 // One call of the tagout event functions, kept for inspection (the server's event log).
