@@ -1,0 +1,97 @@
+#pragma once
+// Tagout: the panel that keeps the tagouts (hold cards) of one process object.
+//
+// The server keeps the tagouts and the tagout class that defines their attributes; the panel holds
+// what it read in a clsTagout model (`clsActiveTagouts`) and collects in `colChangedAttrNames` the
+// attributes whose change the server must hear of as an event. Every request goes through the
+// container's "RunVexlCmd"; texts come from its "GetNlsString" and errors go to its "ShowError".
+//
+// Server answers are checked by type name. A failed check never raises: the operation falls back to
+// a documented default and, where the operator must know, shows why: text 512 when the answer is
+// the error code 5007 (the tagout class database does not exist), otherwise the server's message
+// for the code (asked with GET_ERRORMSG), or text 513 when there is no code or no message. Writes
+// are fire-and-forget: their answer is kept in `lastResult` and nothing else is done with it.
+// What the container raises goes on to the caller, and so does the model's index error when a
+// tagout position is outside the model.
+//
+// The model's attribute position 1 is the row number "#", never a class attribute, so every
+// write walks the attributes from position 2.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "common/panel.h"
+#include "tagout/cls_tagout.h"
+#include "tagout/str_coll.h"
+
+namespace trovane {
+
+class Tagout : public Panel {
+  public:
+    explicit Tagout(PlatformServices platform = PlatformServices::Defaults());
+
+    // ---- Class queries -----------------------------------------------------------------------
+    bool bClassHasActionMethods();
+    // The class's list of one property for every attribute ("NAMES", "VISIBLE", ...) when it has
+    // the expected type name, else Nothing.
+    Variant GetVoskClassAttributes(const std::string& propertyName, const std::string& expectedType);
+    // One property of one attribute; an answer of another type is replaced by the expected type's
+    // stand-in ("Integer": -1 unless numeric, "String": "Error in SDB", "Array": ("Error","in SDB")).
+    Variant GetVOSKClassAttributeProperty(const std::string& attributeName, const std::string& propertyName,
+                                          const std::string& expectedType);
+    Variant GetVOSKClassAttributePostProcessing(const std::string& attributeName);
+
+    // ---- Server date and time ----------------------------------------------------------------
+    void NotifyVOSKTime(const std::string& text);
+    std::string GetVOSKDate();
+    std::string GetVOSKTime();
+    // Whether local blocking may be set from a tagout: always, whatever the attribute.
+    bool GetBlockingEnabled(const std::string& name) const;
+
+    // ---- Writes --------------------------------------------------------------------------------
+    void AddChangedAttrName(const std::string& name);
+    // Tells the server about each changed attribute that drives the object's tag (PRIORITY,
+    // TAG_TEXT, TAG_REPR), resetting the tag when `reset`; then forgets the changed names.
+    void EventShoot(bool reset);
+    void AddEmptyTagoutToSDB();
+    // Writes the changed attributes of the tagout at a model position.
+    void EditTagoutInSDB(int16_t position);
+    // Takes the selected tagout back on the server: its action methods undone, then removed and
+    // deleted.
+    void RemoveTagoutFromSDB();
+    // A key for a new tagout: the server's, or one made here when the server has none.
+    std::string CreateUniqueKeyName();
+
+    // ---- The panel's own checks and reads (not published by name) ---------------------------
+    bool CheckTagoutResult(const Variant& result, std::string_view expectedType, bool show);
+    // 0 when the answer is not a count; never 100 or more.
+    int32_t CountActiveTagouts();
+    // The keys of the active tagouts; ("") at index 1 when the server gave none.
+    Variant GetTagoutNames();
+    // The value, or the server's message when it answers an error code.
+    Variant ReadTagoutAttributeValue(const std::string& key, const std::string& attributeName);
+    // Sets classExists.
+    void QueryTagoutClass();
+
+    // Identity of the object, set by the container before the panel is used.
+    std::string logicalName;
+    int32_t baseIndex = 0;
+    std::string userName;
+
+    bool classExists = false;
+    Variant lastResult;
+    std::shared_ptr<clsTagout> clsActiveTagouts;
+    std::shared_ptr<cStrColl> colChangedAttrNames;
+
+  private:
+    void RegisterMembers();
+    // The server's message for an error code, or text 513 when it has none.
+    std::string ErrorText(int32_t code);
+    void Write(const std::string& command);
+    std::string EditedValue(int16_t position, int16_t attribute, const std::string& name);
+    std::string LocalKeyName() const;
+};
+
+}  // namespace trovane
