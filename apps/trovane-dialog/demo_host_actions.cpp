@@ -44,7 +44,7 @@ WindowPosition DemoHostActions::Position() {
 }
 
 void DemoHostActions::Trace(const std::string& request) {
-    DebugInfo("Host: " + request + " requested");
+    DebugInfo("Host: ", request, " requested");
 }
 
 }  // namespace trovane::dialog

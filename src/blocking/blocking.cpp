@@ -44,10 +44,9 @@ void Blocking::RefreshStates() {
 bool Blocking::ReadRefreshedValues(const Variant& states) {
     if (!states.IsArray() || states.AsArray().UpperBound() < kBlockingKindCount) return false;
     for (const BlockingKind& kind : kBlockingKinds) {
-        const std::string word(kind.traceWord);
-        DebugInfo("   Blocking.RefreshStates: Setting " + word + "...");
+        DebugInfo("   Blocking.RefreshStates: Setting ", kind.traceWord, "...");
         SetKindValue(kind.position, ToInt16(states.AsArray().At(kind.position)));
-        DebugInfo("   Blocking.RefreshStates: Setting " + word + " done.");
+        DebugInfo("   Blocking.RefreshStates: Setting ", kind.traceWord, " done.");
     }
     return true;
 }

@@ -1,5 +1,5 @@
-#include "core/error.h"
 #include "common/common_functions.h"
+#include "core/error.h"
 #include "platform/connection.h"
 #include "platform/trace.h"
 
@@ -14,33 +14,35 @@ bool IsReadyQuietly(Connection& connection) {
         return false;
     }
 }
-
-std::string CommandPrefix(int32_t number) { return "RunVexlCmd: (" + std::to_string(number) + ")"; }
 }  // namespace
 
-Variant CommonFunctions::RunVexlCmdGlobalWithStatus(const Variant& argCommunication, const std::string& vexlCmd,
-                                                    int16_t Application, int32_t& status) {
+Variant CommonFunctions::RunVexlCmdGlobalWithStatus(const Variant& argCommunication,
+                                                    const std::string& vexlCmd, int16_t Application,
+                                                    int32_t& status) {
     if (TypeName(argCommunication) == "Nothing") return Variant();
     const auto connection = ConnectionOf(argCommunication);
     if (!connection || !IsReadyQuietly(*connection)) return Variant();
 
-    const std::string prefix = CommandPrefix(++commandCounter);
-    DebugInfo(prefix + " Running command \"" + vexlCmd + "\"");
+    const int32_t number = ++commandCounter;
+    // Every line of the command starts "RunVexlCmd: (<number>)".
+    const auto trace = [number](const auto&... rest) {
+        trovane::DebugInfo("RunVexlCmd: (", number, ")", rest...);
+    };
+    trace(" Running command \"", vexlCmd, "\"");
     Variant result;
     try {
         connection->ExecuteCommand(Application, vexlCmd, result, status);
     } catch (const Error& error) {
-        DebugInfo(prefix + " failed. " + error.Description() + " (Error number = " + std::to_string(error.Number()) +
-                  ")");
+        trace(" failed. ", error.Description(), " (Error number = ", error.Number(), ")");
         return Variant();
     } catch (const std::exception& error) {
         // A connection written in C++ may fail with any exception; it is reported like a runtime error.
-        DebugInfo(prefix + " failed. " + error.what() + " (Error number = 0)");
+        trace(" failed. ", error.what(), " (Error number = 0)");
         return Variant();
     }
-    DebugInfo(prefix + " finished.");
+    trace(" finished.");
     if (status != 0 || result.IsEmpty()) {
-        DebugInfo(prefix + " returned VEXL error " + std::to_string(status));
+        trace(" returned VEXL error ", status);
         return Variant();
     }
     return result;
@@ -52,6 +54,8 @@ Variant CommonFunctions::RunVexlCmdGlobal(const Variant& argCommunication, const
     return RunVexlCmdGlobalWithStatus(argCommunication, vexlCmd, Application, status);
 }
 
-void CommonFunctions::DebugInfo(const std::string& infoText) { trovane::DebugInfo(infoText); }
+void CommonFunctions::DebugInfo(const std::string& infoText) {
+    trovane::DebugInfo(infoText);
+}
 
 }  // namespace trovane

@@ -12,8 +12,8 @@ Panel::Panel(std::string name, PlatformServices platform)
     : Form(name), services(std::move(platform)), members(std::move(name)) {
     members.Property("Parent", [this] { return Parent(); });
     subscription.onIsolatedFailure = [this](const SubscribedItem& item, const std::exception& failure) {
-        DebugInfo("   " + Name() + ".ISysDataCallback_OnDataChange: item " +
-                  std::to_string(item.clientHandle) + " failed: " + failure.what());
+        DebugInfo("   ", Name(), ".ISysDataCallback_OnDataChange: item ", item.clientHandle,
+                  " failed: ", failure.what());
     };
 }
 
@@ -35,7 +35,7 @@ void Panel::OnDataChange(int32_t, int32_t, int32_t count, const Variant& clientH
     try {
         subscription.Dispatch(count, clientHandles, values);
     } catch (const std::exception&) {
-        DebugInfo("<- " + Name() + ".ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
+        DebugInfo("<- ", Name(), ".ISysDataCallback_OnDataChange ERROR OCCURRED!!!");
     }
 }
 
@@ -82,8 +82,8 @@ void Panel::SetUpControls(std::span<const std::string_view> captionedKinds) {
 }
 
 bool Panel::Traced(std::string_view operation, const std::function<bool()>& body, OnFailure onFailure) const {
-    const std::string name = Name() + "." + std::string(operation);
-    return RunTraced(name, name, onFailure, body);
+    const std::string owner = Name();  // the exit line must not depend on the panel outliving the body
+    return RunTraced(OperationName{owner, operation}, onFailure, body);
 }
 
 }  // namespace trovane

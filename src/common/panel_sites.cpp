@@ -7,8 +7,8 @@
 namespace trovane {
 
 namespace {
-void TraceFailure(const std::string& what, const std::string& siteName, const std::exception& failure) {
-    DebugInfo("Host: " + what + " of " + siteName + " failed: " + failure.what());
+void TraceFailure(std::string_view what, const std::string& siteName, const std::exception& failure) {
+    DebugInfo("Host: ", what, " of ", siteName, " failed: ", failure.what());
 }
 }  // namespace
 

@@ -24,4 +24,12 @@ enum class OnFailure {
 bool RunTraced(std::string_view entryName, std::string_view exitName, OnFailure onFailure,
                const std::function<bool()>& body);
 
+// An operation whose entry and exit lines both name it "<owner>.<operation>" ("Blocking.Init"); the
+// name is only joined when the lines are traced.
+struct OperationName {
+    std::string_view owner;
+    std::string_view operation;
+};
+bool RunTraced(OperationName name, OnFailure onFailure, const std::function<bool()>& body);
+
 }  // namespace trovane

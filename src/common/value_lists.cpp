@@ -2,6 +2,7 @@
 #include "core/conversions.h"
 #include "core/error.h"
 #include "core/keyed_collection.h"
+#include "platform/trace.h"
 
 namespace trovane {
 
@@ -36,24 +37,24 @@ void CommonFunctions::AddListAttribute(Variant& vexlList, const std::string& att
 
 Variant CommonFunctions::SetListAttribute(Variant& vexlList, const std::string& attName,
                                           const Variant& attValue) {
-    DebugInfo("-> SetListAttribute (" + attName + ")");
+    trovane::DebugInfo("-> SetListAttribute (", attName, ")");
     if (IsVariantArray(vexlList)) {
         const int16_t upper = UpperBound16(vexlList);
         for (int32_t i = 1; i <= upper; i += 2) {
             if (IsStringEqualTo(vexlList.AsArray().At(i), attName)) {
                 vexlList.AsArray().Set(i + 1, attValue);
-                DebugInfo("<- SetListAttribute");
+                trovane::DebugInfo("<- SetListAttribute");
                 return Variant();
             }
         }
     }
-    DebugInfo("<- SetListAttribute ERROR OCCURRED. Variable type is " + TypeName(Variant()));
+    trovane::DebugInfo("<- SetListAttribute ERROR OCCURRED. Variable type is ", TypeName(Variant()));
     return Variant();
 }
 
 // Every element is compared, values included: a text value equal to the name is taken for a name.
 std::optional<int32_t> CommonFunctions::FindListItem(const Variant& list, const std::string& itemName) {
-    DebugInfo("-> GetListItem (" + itemName + ")");
+    trovane::DebugInfo("-> GetListItem (", itemName, ")");
     if (IsVariantArray(list)) {
         const VariantArray& elements = list.AsArray();
         const int16_t upper = UpperBound16(list);
@@ -61,12 +62,12 @@ std::optional<int32_t> CommonFunctions::FindListItem(const Variant& list, const 
             if (IsStringEqualTo(elements.At(i), itemName)) {
                 // A name in the last element: subscript out of range.
                 if (!elements.Contains(i + 1)) throw Error(ErrorNumber::SubscriptOutOfRange);
-                DebugInfo("<- GetListItem");
+                trovane::DebugInfo("<- GetListItem");
                 return i + 1;
             }
         }
     }
-    DebugInfo("<- GetListItem ERROR OCCURRED. Variable type is " + TypeName(Variant()));
+    trovane::DebugInfo("<- GetListItem ERROR OCCURRED. Variable type is ", TypeName(Variant()));
     return std::nullopt;
 }
 
