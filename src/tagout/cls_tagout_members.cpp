@@ -36,8 +36,11 @@ void clsTagout::RegisterMembers() {
         {"AddAttrTitle", &clsTagout::AddAttrTitle},
         {"AddAttrType", &clsTagout::AddAttrType},
         {"AddAttrVisible", &clsTagout::AddAttrVisible}};
-    for (const auto& [name, add] : definitions)
-        members.Method(name, ReturningEmpty([this, add](Args a) { (this->*add)(Text(a, 0), Int16(a, 1)); }));
+    for (const auto& definition : definitions) {
+        const AddDefinition add = definition.second;
+        members.Method(definition.first,
+                       ReturningEmpty([this, add](Args a) { (this->*add)(Text(a, 0), Int16(a, 1)); }));
+    }
     members.Method("ClearAll", ReturningEmpty([this](Args) { ClearAll(); }));
     members.Method("AttrInstValues", [this](Args a) { return ObjectOrNothing(AttrInstValues(Text(a, 0))); });
     members.Method("AttrInstValue",
