@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "common/error_dlg.h"
+#include "indication/indication_bar.h"
 #include "panel_sites.h"
 #include "qt/text.h"
 
@@ -146,6 +147,11 @@ qt::FormView* DialogWindow::ViewOf(const std::string& formName) const {
     for (qt::FormView* view : panelViews)
         if (view->Model().Name() == formName) return view;
     return nullptr;
+}
+
+void DialogWindow::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    if (const auto bar = host.Panels().FindAs<IndicationBar>(kIndicationSite)) bar->MoveTip();
 }
 
 void DialogWindow::closeEvent(QCloseEvent* event) {

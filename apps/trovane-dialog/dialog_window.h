@@ -7,7 +7,8 @@
 // button. Each sited panel's form is shown on its page in table order, in a captioned frame when
 // its site has a title. The window gives the host its handle as the frame of every dialog the
 // panels open, its rectangle as the host's window position, and runs the notification pump on the
-// event loop; the library's dialogs get their windows from the platform's presenter. Closing the
+// event loop; the library's dialogs get their windows from the platform's presenter, and the
+// comment's balloon, a window of its own, follows the dialog when it moves. Closing the
 // window unloads the error dialog and stops the host (panels deactivated) before the views go.
 
 #include <memory>
@@ -48,6 +49,7 @@ class DialogWindow final : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
 
   private:
     void AddPage(const DialogPage& page);

@@ -2,6 +2,7 @@
 
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
+#include "indication/indication_bar.h"
 
 namespace trovane::dialog {
 
@@ -35,7 +36,8 @@ std::string DialogPageNames() {
 }
 
 // The alarm list comes first, above the blocking panel on its page; its selection drives the
-// blocking panel, through the container, from the first notification on.
+// blocking panel, through the container, from the first notification on. The indication bar stands
+// above the pages and writes comments under the operator's name.
 std::vector<PanelSite> ControlDialogSites() {
     return {
         SiteOf<Alarms>(
@@ -55,6 +57,13 @@ std::vector<PanelSite> ControlDialogSites() {
                    },
                    nullptr, [](Blocking& blocking) { blocking.RefreshStates(); }),
                kBlockingText),
+        SiteOf<IndicationBar>(
+            kIndicationSite, kTopArea,
+            [](IndicationBar& bar, const SiteContext& context) {
+                bar.Activate(context.application, context.object.logicalName,
+                             context.container.Settings().userName, context.connection);
+            },
+            [](IndicationBar& bar) { bar.Deactivate(); }),
     };
 }
 

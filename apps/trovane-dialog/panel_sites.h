@@ -16,6 +16,7 @@ namespace trovane::dialog {
 // Site names the panels and the host ask for.
 inline constexpr const char* kAlarmSite = "Alarms1";
 inline constexpr const char* kBlockingSite = "Blocking1";
+inline constexpr const char* kIndicationSite = "IndicationBar1";
 
 // Pages of the dialog, in the order of their tabs. A page appears only when it holds a panel.
 struct DialogPage {

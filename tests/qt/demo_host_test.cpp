@@ -38,9 +38,10 @@ TEST_F(DemoHostTest, SitesStartInTableOrderAndStopInReverse) {
     trovane::testing::TraceCapture trace;
     Open();
     const auto& panels = host->Panels().Panels();
-    ASSERT_EQ(panels.size(), 2u);
+    ASSERT_EQ(panels.size(), 3u);
     EXPECT_EQ(panels[0].site.name, "Alarms1");
     EXPECT_EQ(panels[1].site.name, "Blocking1");
+    EXPECT_EQ(panels[2].site.name, "IndicationBar1");
     EXPECT_LT(std::find(trace.Lines().begin(), trace.Lines().end(), "-> Alarms.Init"),
               std::find(trace.Lines().begin(), trace.Lines().end(), "-> Blocking.Init"));
     EXPECT_EQ(GetProperty(Container(), "Alarms1").AsObject(), panels[0].panel);

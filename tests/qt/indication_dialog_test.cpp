@@ -1,0 +1,125 @@
+// The indication bar and its comment dialog driven through the real widgets of the control dialog,
+// against the in-process demo server.
+
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "core/conversions.h"
+#include "dialog_host.h"
+#include "dialog_window.h"
+#include "indication/indication_bar.h"
+#include "support/qt_application.h"
+
+namespace trovane::dialog {
+namespace {
+
+class IndicationDialogTest : public ::testing::Test {
+  protected:
+    IndicationDialogTest() { trovane::testing::TestApplication(); }
+
+    void Open(UserRights rights = UserRights::All()) {
+        DialogOptions options;
+        options.rights = rights;
+        host = std::make_unique<DialogHost>(options, platform.services);
+        window = std::make_unique<DialogWindow>(*host, platform);
+        window->Start();
+        window->show();
+        window->Settle();
+    }
+
+    IndicationBar& Bar() const { return *host->Panels().FindAs<IndicationBar>(kIndicationSite); }
+    QWidget* BarWidget(const char* name) const { return window->ViewOf("IndicationBar")->WidgetOf(name); }
+    qt::FormView* CommentWindow() const {
+        const ObjectCommentDialog* dialog = Bar().CommentDialog();
+        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
+    }
+    template <typename W>
+    W* CommentWidget(const char* name) const {
+        return qobject_cast<W*>(CommentWindow()->WidgetOf(name));
+    }
+    std::string ServerComment() {
+        int32_t status = 0;
+        return ToString(host->Server().Execute("#return ABC:PGC", status));
+    }
+    static void Click(QWidget* widget) {
+        ASSERT_NE(widget, nullptr);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->width() / 2, widget->height() / 2));
+    }
+
+    qt::QtPlatform platform = qt::MakeQtPlatform();
+    std::unique_ptr<DialogHost> host;
+    std::unique_ptr<DialogWindow> window;
+};
+
+TEST_F(IndicationDialogTest, TheOperatorRewritesTheCommentInTheDialogAndTheBarShowsTheServersNewValue) {
+    Open();
+    auto* button = qobject_cast<QPushButton*>(BarWidget("btnIndication"));
+    auto* label = qobject_cast<QLabel*>(BarWidget("lblComment"));
+    ASSERT_TRUE(button && label);
+    EXPECT_EQ(button->text(), "Edit comment");
+    EXPECT_TRUE(label->text().startsWith("operator1, 2026-11-20 07:45:00"));
+    qt::BalloonTipWindow* balloon = platform.windows->BalloonOf(Bar());
+    ASSERT_NE(balloon, nullptr);
+    EXPECT_TRUE(balloon->isVisible());
+    const QPoint stem = balloon->StemPoint();
+    window->move(window->pos() + QPoint(40, 30));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(balloon->StemPoint(), stem + QPoint(40, 30)) << "the balloon follows the dialog";
+
+    Click(button);
+    ASSERT_NE(CommentWindow(), nullptr);
+    EXPECT_TRUE(CommentWindow()->isVisible());
+    EXPECT_EQ(CommentWindow()->windowTitle(), "Comment");
+    auto* text = CommentWidget<QPlainTextEdit>("txtComment");
+    auto* ok = CommentWidget<QPushButton>("btnOK");
+    ASSERT_TRUE(text && ok);
+    EXPECT_FALSE(ok->isEnabled());
+    Click(CommentWidget<QPushButton>("btnRemove"));
+    EXPECT_EQ(text->toPlainText(), "");
+    QTest::keyClicks(text, "Gas \"OK\"");
+    QTest::keyClick(text, Qt::Key_Return);
+    QTest::keyClicks(text, "it's #2");
+    EXPECT_TRUE(ok->isEnabled());
+    Click(ok);
+    EXPECT_EQ(ServerComment().substr(0, 9), "operator#");
+    EXPECT_TRUE(ServerComment().ends_with("#Gas \"OK\"\nit's #2")) << ServerComment();
+
+    window->Settle();
+    EXPECT_EQ(CommentWindow(), nullptr) << "OK closed the dialog";
+    EXPECT_EQ(Bar().commentText, "Gas \"OK\"\r\nit's #2");
+    EXPECT_TRUE(label->text().startsWith("operator, ")) << label->text().toStdString();
+    EXPECT_TRUE(label->text().endsWith("Gas \"OK\""));
+    ASSERT_NE(platform.windows->BalloonOf(Bar()), nullptr);
+    EXPECT_TRUE(platform.windows->BalloonOf(Bar())->Text().endsWith("it's #2"));
+}
+
+TEST_F(IndicationDialogTest, AnOperatorWithoutAuthorisationCanNeitherEditNorRemove) {
+    UserRights rights = UserRights::All();
+    rights.authorized = false;
+    Open(rights);
+    const std::string before = ServerComment();
+    Click(BarWidget("btnIndication"));
+    ASSERT_NE(CommentWindow(), nullptr);
+    auto* text = CommentWidget<QPlainTextEdit>("txtComment");
+    ASSERT_NE(text, nullptr);
+    EXPECT_TRUE(text->isReadOnly());
+    EXPECT_FALSE(CommentWidget<QPushButton>("btnRemove")->isEnabled());
+    const QString shown = text->toPlainText();
+    QTest::keyClicks(text, "typed");
+    EXPECT_EQ(text->toPlainText(), shown);
+    EXPECT_FALSE(CommentWidget<QPushButton>("btnOK")->isEnabled());
+    Click(CommentWidget<QPushButton>("btnCancel"));
+    window->Settle();
+    EXPECT_EQ(CommentWindow(), nullptr);
+    EXPECT_EQ(ServerComment(), before);
+}
+
+}  // namespace
+}  // namespace trovane::dialog
