@@ -44,10 +44,8 @@ TEST_F(IndicationOnDemoServer, ACommentWrittenThroughTheDialogComesBackWithAutho
     ASSERT_NE(dialog, nullptr);
     dialog->txtComment.SetText("Say \"stop\" at #3\r\nit's earthed");
     dialog->btnOK.Click();
-    EXPECT_EQ(ServerComment(),
-              ToString(host->RunVexlCmd("#return \"operator#\" + type_cast(type_cast(pack_time("
-                                        "2025,3,4,5,6,7),\"INTEGER\"),\"TEXT\") + \"#\"")) +
-                  "Say \"stop\" at #3\nit's earthed");
+    EXPECT_TRUE(ServerComment().starts_with("operator#"));
+    EXPECT_TRUE(ServerComment().ends_with("#Say \"stop\" at #3\nit's earthed"));
     host->Connection().Pump();
     EXPECT_EQ(panel->commentAuthor, "operator");
     EXPECT_EQ(panel->commentTime, MakeDate(2025, 3, 4, 5, 6, 7));
