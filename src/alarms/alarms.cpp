@@ -28,6 +28,8 @@ void Alarms::RefreshAlarms() {
     if (DisableUpdate) return;
     rowIdentities.clear();
     stateTexts.clear();
+    widestSignalText = 0;
+    widestStateText = 0;
     EnsureColumns();
     ListView1.ClearItems();
     const Variant alarmList = services.GetListItem(CallContainer("GetAlarms"), "COMBO_LIST");
@@ -77,19 +79,25 @@ void Alarms::EnsureColumns() {
     ListView1.AddColumn(GetNlsString(kAlarmStateTextId));
 }
 
-// The nine state texts come from the container once per refresh, not once per row.
-const std::string& Alarms::StateText(const AlarmState& state) {
+// The nine state texts come from the container, and are measured, once per refresh, not once per row.
+const Alarms::MeasuredText& Alarms::StateText(const AlarmState& state) {
     auto found = stateTexts.find(state.stateTextId);
-    if (found == stateTexts.end())
-        found = stateTexts.emplace(state.stateTextId, GetNlsString(state.stateTextId)).first;
+    if (found == stateTexts.end()) {
+        std::string text = GetNlsString(state.stateTextId);
+        const int32_t width = TextWidth(text);
+        found = stateTexts.emplace(state.stateTextId, MeasuredText{std::move(text), width}).first;
+    }
     return found->second;
 }
 
 ListItem* Alarms::AddRow(AlarmRow&& row) {
     ListItem& item = ListView1.AddItem("", std::move(row.key), row.state->iconPosition);
     rowIdentities.push_back(std::move(row.identity));
+    widestSignalText = std::max(widestSignalText, TextWidth(row.signalText));
     item.SetSubItem(1, std::move(row.signalText));
-    item.SetSubItem(2, StateText(*row.state));
+    const MeasuredText& stateText = StateText(*row.state);
+    widestStateText = std::max(widestStateText, stateText.width);
+    item.SetSubItem(2, stateText.text);
     if (!row.tag.empty()) {
         item.SetTag(std::move(row.tag));
         anyUnacknowledged = true;

@@ -67,6 +67,12 @@ class Alarms : public Panel {
     PictureBox& Picture1;
 
   private:
+    // Measured while the rows are added, so fitting the columns needs no second walk over the rows.
+    struct MeasuredText {
+        std::string text;
+        int32_t width = 0;
+    };
+
     void LayOutControls();
     void ConnectEvents();
     void RegisterMembers();
@@ -75,7 +81,8 @@ class Alarms : public Panel {
     void EnsureColumns();
     ListItem* AddRows(const Variant& alarmList);
     ListItem* AddRow(AlarmRow&& row);
-    const std::string& StateText(const AlarmState& state);
+    const MeasuredText& StateText(const AlarmState& state);
+    int32_t WidestCell(int32_t column) const;
     void FollowRememberedSignal(const ListItem* reselected);
     void SelectRow(bool freezeUpdates);
     void HandOverSignal(const std::string& identity);
@@ -89,7 +96,10 @@ class Alarms : public Panel {
     std::vector<std::string> rowIdentities;
     bool anyUnacknowledged = false;
     std::string rememberedSignal;
-    std::map<int32_t, std::string> stateTexts;  // by text id, for the refresh under way
+
+    std::map<int32_t, MeasuredText> stateTexts;  // by text id, for the refresh under way
+    int32_t widestSignalText = 0;
+    int32_t widestStateText = 0;
 };
 
 }  // namespace trovane

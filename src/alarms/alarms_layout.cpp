@@ -82,12 +82,22 @@ void Alarms::FitColumns() {
     if (ListView1.ColumnCount() < 1) return;
     ListView1.SetColumnWidth(1, Pixels(kIconColumnPixels));
     for (int32_t column = 2; column <= ListView1.ColumnCount(); ++column) {
-        int32_t widest = TextWidth(ListView1.Column(column).text);
-        for (int32_t row = 1; row <= ListView1.ItemCount(); ++row)
-            widest = std::max(widest, TextWidth(ListView1.Item(row).SubItem(column - 1)));
+        const int32_t widest = std::max(TextWidth(ListView1.Column(column).text), WidestCell(column));
         ListView1.SetColumnWidth(column, widest + Pixels(kTextPaddingPixels));
     }
     StretchLastColumn();
+}
+
+// The widest cell text of a column in the last refresh; the panel fills the signal and state columns.
+int32_t Alarms::WidestCell(int32_t column) const {
+    switch (column) {
+        case 2:
+            return widestSignalText;
+        case 3:
+            return widestStateText;
+        default:
+            return 0;
+    }
 }
 
 // The last column ends at the list's visible right edge (inside the border and the vertical scroll

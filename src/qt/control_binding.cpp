@@ -160,7 +160,7 @@ void ControlBinding::HandleMouse(QEvent* event, bool down) {
 }
 
 void ControlBinding::ReportFailure(const char* what) const {
-    DebugInfo("Qt front end: " + control->Name() + " input failed: " + what);
+    DebugInfo("Qt front end: ", control->Name(), " input failed: ", what);
 }
 
 }  // namespace trovane::qt

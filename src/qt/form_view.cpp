@@ -32,7 +32,11 @@ FormView::FormView(std::shared_ptr<Form> formIn, TwipsScale scaleIn, QWidget* pa
 FormView::~FormView() {
     formConnections.clear();
     form->SetTextMeasure(nullptr);
-    // Bindings go first, while the widgets they watch still exist.
+    // Bindings go first, while the widgets they watch still exist. Destroying one hides its widget,
+    // which may move the focus and so report changes of other controls: the view stops watching
+    // before the map is taken apart, and the map is emptied before its entries go.
+    for (auto& [control, bound] : bindings) bound.changed = ScopedConnection();
+    const auto doomed = std::move(bindings);
     bindings.clear();
 }
 
@@ -113,7 +117,7 @@ void FormView::PressButton(bool defaultButton) {
             try {
                 button->Click();
             } catch (const std::exception& failure) {
-                DebugInfo("Qt front end: " + button->Name() + " input failed: " + failure.what());
+                DebugInfo("Qt front end: ", button->Name(), " input failed: ", failure.what());
             }
             return;
         }

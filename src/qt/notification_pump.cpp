@@ -30,7 +30,7 @@ void NotificationPump::DeliverNow() {
     try {
         deliver();
     } catch (const std::exception& failure) {
-        DebugInfo(std::string("NotificationPump: a data-change callback failed: ") + failure.what());
+        DebugInfo("NotificationPump: a data-change callback failed: ", failure.what());
     } catch (...) {
         DebugInfo("NotificationPump: a data-change callback failed.");
     }

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -156,7 +157,11 @@ TEST_F(BindingTest, MouseClicksRaiseTheClassicOrderOfEventsAndTheSpaceBarAPlainC
 TEST_F(BindingTest, ControlsThatOutliveTheirViewKeepNoHandlersOfIt) {
     auto& box = form->Add<TextBox>("txtAttr");
     auto& list = form->Add<ListView>("ListView1");
-    View();
+    for (const char* name : {"txtFirst", "txtSecond"}) form->Add<TextBox>(name);
+    View().activateWindow();
+    QApplication::setActiveWindow(&View());
+    View().WidgetOf("txtFirst")->setFocus();  // taking the view down moves this focus on
+    ASSERT_EQ(QApplication::focusWidget(), View().WidgetOf("txtFirst"));
     EXPECT_TRUE(box.onChanged.IsConnected());
     EXPECT_TRUE(list.onListChanged.IsConnected());
     const ObjectRef kept = box.shared_from_this();  // held elsewhere, as a late-bound caller may

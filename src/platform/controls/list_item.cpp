@@ -9,6 +9,17 @@ ListItem::ListItem(ListView& owner, std::string text, std::string key, int32_t s
     : owner_(&owner), key_(std::move(key)), text_(std::move(text)), smallIcon_(smallIcon) {
 }
 
+void ListItem::Reuse(std::string text, std::string key, int32_t smallIcon) {
+    index_ = 0;
+    key_ = std::move(key);
+    text_ = std::move(text);
+    tag_.clear();
+    smallIcon_ = smallIcon;
+    ghosted_ = false;
+    selected_ = false;
+    for (std::string& subItem : subItems_) subItem.clear();
+}
+
 template <typename T>
 void ListItem::Update(T& field, T value) {
     if (field == value) return;

@@ -40,6 +40,8 @@ class ListItem {
     friend class ListView;
     template <typename T>
     void Update(T& field, T value);
+    // Makes a cleared row a new one, keeping the sub-items' storage; raises nothing.
+    void Reuse(std::string text, std::string key, int32_t smallIcon);
 
     ListView* owner_;
     int32_t index_ = 0;

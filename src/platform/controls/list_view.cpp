@@ -56,11 +56,11 @@ void ListView::ClearColumns() {
 
 ListItem& ListView::AddItem(std::string text, std::string key, int32_t smallIcon) {
     if (!key.empty() && FindItem(key) != nullptr) throw KeyNotUnique();
-    items_.push_back(std::make_unique<ListItem>(*this, std::move(text), std::move(key), smallIcon));
+    items_.push_back(NewRow(std::move(text), std::move(key), smallIcon));
     ListItem& item = *items_.back();
     if (!item.Key().empty()) {
         try {
-            rowsByKey_.emplace(item.Key(), &item);
+            IndexKey(item);
         } catch (...) {
             items_.pop_back();  // a row the index does not know must not stay in the list
             throw;
@@ -69,6 +69,33 @@ ListItem& ListView::AddItem(std::string text, std::string key, int32_t smallIcon
     item.index_ = ItemCount();
     onListChanged.Emit(ListViewChange::RowAdded, ItemCount());
     return item;
+}
+
+// A list is mostly rebuilt whole: clear, then add about as many rows again. The rows and index entries
+// of the last clear are reused, so a rebuild allocates nothing for rows it had before.
+std::unique_ptr<ListItem> ListView::NewRow(std::string text, std::string key, int32_t smallIcon) {
+    if (spareRows_.empty()) {
+        auto row = std::make_unique<ListItem>(*this, std::move(text), std::move(key), smallIcon);
+        // A row usually gets a text for every column; one allocation for them, not one per column.
+        if (ColumnCount() > 1) row->subItems_.reserve(static_cast<size_t>(ColumnCount() - 1));
+        return row;
+    }
+    std::unique_ptr<ListItem> row = std::move(spareRows_.back());
+    spareRows_.pop_back();
+    row->Reuse(std::move(text), std::move(key), smallIcon);
+    return row;
+}
+
+void ListView::IndexKey(ListItem& item) {
+    if (spareKeys_.empty()) {
+        rowsByKey_.emplace(item.Key(), &item);
+        return;
+    }
+    KeyIndex::node_type entry = std::move(spareKeys_.back());
+    spareKeys_.pop_back();
+    entry.key() = item.Key();
+    entry.mapped() = &item;
+    rowsByKey_.insert(std::move(entry));
 }
 
 ListItem& ListView::Item(int32_t index) const {
@@ -94,7 +121,10 @@ void ListView::RemoveItem(int32_t index) {
 void ListView::ClearItems() {
     if (items_.empty()) return;
     selected_ = nullptr;
-    rowsByKey_.clear();
+    spareKeys_.reserve(spareKeys_.size() + rowsByKey_.size());
+    while (!rowsByKey_.empty()) spareKeys_.push_back(rowsByKey_.extract(rowsByKey_.begin()));
+    spareRows_.reserve(spareRows_.size() + items_.size());
+    for (auto& item : items_) spareRows_.push_back(std::move(item));
     items_.clear();
     onListChanged.Emit(ListViewChange::RowsCleared, 0);
 }

@@ -75,8 +75,14 @@ class ListView : public Control {
     void Renumber();
 
     std::vector<ColumnHeader> columns_;
+    using KeyIndex = std::unordered_map<std::string_view, ListItem*>;  // views of the rows' own keys
+    std::unique_ptr<ListItem> NewRow(std::string text, std::string key, int32_t smallIcon);
+    void IndexKey(ListItem& item);
+
     std::vector<std::unique_ptr<ListItem>> items_;
-    std::unordered_map<std::string_view, ListItem*> rowsByKey_;  // views of the rows' own keys
+    KeyIndex rowsByKey_;
+    std::vector<std::unique_ptr<ListItem>> spareRows_;  // the rows of the last clear, for the next adds
+    std::vector<KeyIndex::node_type> spareKeys_;
     ListItem* selected_ = nullptr;
     ImageList smallIcons_;
 };

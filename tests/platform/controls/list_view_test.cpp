@@ -83,6 +83,26 @@ TEST_F(ListViewTest, KeysAndPositionsAreCheckedAndRemovingRenumbers) {
     EXPECT_EQ(list.AddItem("fresh", "K4").Index(), 1);
 }
 
+// A rebuilt list reuses the rows of the last clear; a new row carries nothing of the old one.
+TEST_F(ListViewTest, RowsAddedAfterAClearStartBlank) {
+    ListItem& old = list.Item(1);
+    old.SetTag("True");
+    old.SetGhosted(true);
+    old.SetSubItem(2, "Persisting");
+    list.SelectItem(&old);
+    list.ClearItems();
+    ListItem& fresh = list.AddItem("new", "", 3);
+    EXPECT_EQ(fresh.Text(), "new");
+    EXPECT_EQ(fresh.Key(), "");
+    EXPECT_EQ(fresh.SmallIcon(), 3);
+    EXPECT_EQ(fresh.Tag(), "");
+    EXPECT_FALSE(fresh.Ghosted());
+    EXPECT_FALSE(fresh.Selected());
+    EXPECT_EQ(fresh.SubItem(2), "");
+    EXPECT_EQ(list.SelectedItem(), nullptr);
+    EXPECT_EQ(list.FindItem("K1"), nullptr);
+}
+
 // Rows, columns and images report only real changes; images keep fixed one-based positions.
 TEST_F(ListViewTest, RowsColumnsAndImagesReportOnlyRealChanges) {
     ListItem& row = list.Item(2);
