@@ -1,8 +1,8 @@
-// Feeds arbitrary server answers to the alarm and blocking panels. The input is Vexl text; its
-// value is what the container's GetAlarms and every command return. Whatever the value, the panels
-// must rebuild, select, acknowledge, refresh and write without crashing; the only failures allowed
-// are the documented runtime errors (a list beyond 32767 rows overflows, a signal listed twice
-// repeats a row key).
+// Feeds arbitrary server answers to the alarm, blocking and indication panels. The input is Vexl
+// text; its value is what the container's GetAlarms and every command return, and what the
+// indication bar receives as its comment. Whatever the value, the panels must rebuild, select,
+// acknowledge, refresh and write without crashing; the only failures allowed are the documented
+// runtime errors (a list beyond 32767 rows overflows, a signal listed twice repeats a row key).
 
 #include <cstddef>
 #include <cstdint>
@@ -11,7 +11,9 @@
 
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
+#include "indication/indication_bar.h"
 #include "sim/vexl_interpreter.h"
+#include "support/fake_connection.h"
 #include "support/fake_vexl_environment.h"
 
 namespace {
@@ -23,11 +25,17 @@ std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answe
     const auto constant = [answer](std::span<Variant>) { return answer; };
     const auto nothing = [](std::span<Variant>) { return Variant(); };
     container->Method("GetAlarms", constant).Method("RunVexlCmd", constant);
+    // Every write is refused, so the bar also asks for the status's name and shows it.
+    container->Method("RunVexlCmdWithStatus", [answer](std::span<Variant> args) {
+        if (args.size() > 1) args[1] = Variant(int32_t{2003});
+        return answer;
+    });
     container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
     container->Method("IsAlarmHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
     container->Method("IsBlockingHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
-    for (const char* member :
-         {"SetCharsetValues", "SetBlockedSignal", "SetSingleBlocking", "RefreshSubscriptions"})
+    container->Method("IsUserAuthorized", [](std::span<Variant>) { return Variant(true); });
+    for (const char* member : {"SetCharsetValues", "SetBlockedSignal", "SetSingleBlocking",
+                               "RefreshSubscriptions", "ShowError", "SetWindowOrder"})
         container->Method(member, nothing);
     return container;
 }
@@ -65,6 +73,27 @@ void DriveBlocking(const Variant& container) {
     }
 }
 
+// The answer arrives as the comment itself and as the time of a well-formed one; then the operator
+// opens the dialog, edits and writes.
+void DriveIndication(const Variant& container, const Variant& answer) {
+    auto connection = std::make_shared<trovane::testing::FakeConnection>();
+    auto bar = std::make_shared<trovane::IndicationBar>();
+    bar->SetParent(container);
+    try {
+        bar->Activate(1, "ABC", "operator", connection->AsVariant());
+        connection->Notify(1, {1, 1}, {answer, Variant("anna#1714555815#text")});
+        bar->OnDataChange(0, 1, 2, answer, answer, answer, answer);
+        bar->btnIndication.Click();
+        if (trovane::ObjectCommentDialog* dialog = bar->CommentDialog()) {
+            dialog->btnRemove.Click();
+            dialog->btnOK.Click();
+        }
+        bar->btnShowComment.Click();
+        bar->Deactivate();
+    } catch (const trovane::Error&) {
+    }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
@@ -76,5 +105,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto container = ContainerAnswering(answer);
     DriveAlarms(Variant(trovane::ObjectRef(container)), answer);
     DriveBlocking(Variant(trovane::ObjectRef(container)));
+    DriveIndication(Variant(trovane::ObjectRef(container)), answer);
     return 0;
 }
