@@ -30,5 +30,9 @@ Variant TagoutProcedure(ProcessDatabase& database, std::span<const Variant> args
 Variant TagoutActionProcedure(ProcessDatabase& database, std::span<const Variant> args);
 // BGU_ALARMS:C: "GET_ALARM_LIST" for the host's GetAlarms: LIST(COMBO_LIST=(...)).
 Variant AlarmListProcedure(ProcessDatabase& database, std::span<const Variant> args);
+// BGU_LOCATION:C: "GET_LOCATION", "SELECT_STATION", "SELECT_NCC", "SET_CUSTOM" (request first).
+Variant LocationProcedure(ProcessDatabase& database, std::span<const Variant> args);
+// BGU_DIALUP:C: "DIAL", "HANG_UP", "SYNC", "UPDATE" (request first; dial_up_lines.h).
+Variant DialUpProcedure(ProcessDatabase& database, std::span<const Variant> args);
 
 }  // namespace trovane::sim
