@@ -1,5 +1,5 @@
 // The tagout requests byte for byte, with arguments holding a double quote and an apostrophe
-// (spliced in as they are), and the action method an "AM" attribute names.
+// (spliced in as they are), and the action methods that "AM" attributes name.
 
 #include <gtest/gtest.h>
 
@@ -43,33 +43,14 @@ TEST(TagoutCommandsTest, EveryTemplateSplicesItsArgumentsUnchanged) {
         {NotifyTimeCommand(v), R"(#return do(OVGR_TAGOUT:C, "MISC_FUNCTIONS","NOTIFY_TIME","it's "on""))"},
         {ActionMethodCommand(ActionMethodOf("AM_LOCAL01"), "ABC", 10, v, "ID1511202603344512"),
          R"(#return do(OVGR_TAGOUT_AM:C, "LOCAL_BLOCK", ("ABC",10),"it's "on"","01","ID1511202603344512"))"},
+        {ActionMethodCommand(ActionMethodOf("AM_LOCAL_A"), "ABC", 10, "-", "ID1"),
+         R"(#return do(OVGR_TAGOUT_AM:C, "LOCAL_BLOCK", ("ABC",10),"-","_A","ID1"))"},
+        {ActionMethodCommand(ActionMethodOf("AM_LOCAL123"), "ABC", 10, "-", "ID1"),
+         R"(#return do(OVGR_TAGOUT_AM:C, "LOCAL123", ("ABC",10),"-","","ID1"))"},
     };
     // clang-format on
     for (const auto& [built, expected] : table) EXPECT_EQ(built, expected);
-}
-
-TEST(TagoutCommandsTest,
-     ShortLocalAttributesNameLocalBlockAndTheirDeviceOthersTheMethodFromTheFourthCharacter) {
-    struct Case {
-        const char* attribute;
-        const char* method;
-        const char* argument;
-    };
-    const Case cases[] = {{"AM_LOCAL_A", "LOCAL_BLOCK", "_A"},
-                          {"AM_LOCAL01", "LOCAL_BLOCK", "01"},
-                          {"AM_LOCAL", "LOCAL_BLOCK", ""},
-                          {"AM_LOCAL123", "LOCAL123", ""},
-                          {"AM_CONTROL_BLOCK", "CONTROL_BLOCK", ""},
-                          {"AM", "", ""},
-                          {"AMX", "", ""}};
-    for (const Case& c : cases) {
-        const ActionMethod action = ActionMethodOf(c.attribute);
-        EXPECT_EQ(action.method, c.method) << c.attribute;
-        EXPECT_EQ(action.argument, c.argument) << c.attribute;
-    }
-    EXPECT_TRUE(TriggersActionMethod("AMOUNT"));
     EXPECT_FALSE(TriggersActionMethod("Am_LOCAL01"));
-    EXPECT_FALSE(TriggersActionMethod("A"));
 }
 
 }  // namespace

@@ -38,10 +38,6 @@ class TagoutPanelTest : public ::testing::Test {
     }
 
     std::vector<std::string> Commands() const { return container->ConnectionObject().Commands(); }
-    std::vector<std::string> CommandsSince(size_t first) const {
-        const auto all = Commands();
-        return std::vector<std::string>(all.begin() + static_cast<std::ptrdiff_t>(first), all.end());
-    }
 
     // Class attributes after the row-number pseudo-attribute: name, visibility.
     void DefineAttributes(const std::vector<std::pair<std::string, bool>>& attributes) {
