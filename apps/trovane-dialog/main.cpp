@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <vector>
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include "dialog_host.h"
 #include "dialog_options.h"
 #include "dialog_window.h"
+#include "platform/system_locale.h"
 #include "platform/trace.h"
 #include "qt/qt_platform.h"
 #include "screenshot.h"
@@ -29,6 +31,8 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("trovane-dialog");
     qt::QtPlatform platform = qt::MakeQtPlatform();
+    // Numbers are typed and shown with the operator's own decimal separator.
+    platform.services.locale = std::make_shared<SystemLocale>();
     options.installationRoot = dialog::LocalServerRoot(QCoreApplication::applicationFilePath().toStdString());
 
     dialog::DialogHost host(options, platform.services);
