@@ -2,8 +2,12 @@
 
 #include "blocking/blocking.h"
 #include "common/command_text.h"
+#include "opcounter/misc_functions.h"
+#include "operatorplace/operator_place.h"
 #include "panel_sites.h"
 #include "platform/trace.h"
+#include "server_requests.h"
+#include "small_panel_sites.h"
 
 namespace trovane::dialog {
 
@@ -45,6 +49,59 @@ WindowPosition DemoHostActions::Position() {
 
 void DemoHostActions::Trace(const std::string& request) {
     DebugInfo("Host: ", request, " requested");
+}
+
+void DemoHostActions::Station_Select() {
+    Request(LocationRequest("SELECT_STATION", object), kOperatorPlaceSite);
+}
+
+void DemoHostActions::NCC_Select() {
+    Request(LocationRequest("SELECT_NCC", object), kOperatorPlaceSite);
+}
+
+void DemoHostActions::Execute() {
+    const auto place = panels.FindAs<OperatorPlace>(kOperatorPlaceSite);
+    if (!place) return;
+    Request(CustomLocationRequest(object, place->CustomLRSetToValue), kOperatorPlaceSite);
+}
+
+// The dialog has no status line of its own: the text goes to the trace.
+void DemoHostActions::updatestatustext() {
+    const auto counter = panels.FindAs<MiscFunctions>(kOperationCounterSite);
+    DebugInfo("Host: status text \"", counter ? counter->statusText : std::string(), "\"");
+}
+
+void DemoHostActions::MakeCall() {
+    Request(DialUpRequest("DIAL", object), kDialUpSite);
+}
+
+void DemoHostActions::HangUp() {
+    Request(DialUpRequest("HANG_UP", object), kDialUpSite);
+}
+
+void DemoHostActions::MakeSync() {
+    Request(DialUpRequest("SYNC", object), kDialUpSite);
+}
+
+void DemoHostActions::makeUpdate() {
+    Request(DialUpRequest("UPDATE", object), kDialUpSite);
+}
+
+void DemoHostActions::UpdateData() {
+    Request(DialUpRequest("UPDATE", object), kUpdateDataSite);
+}
+
+void DemoHostActions::Request(const std::string& command, std::string_view site) {
+    int32_t status = 0;
+    container.RunVexlCmdWithStatus(command, status);
+    if (status == 0) return;
+    DebugInfo("Host: the server refused the request (status ", status, ")");
+    RefreshSite(site);
+}
+
+void DemoHostActions::RefreshSite(std::string_view site) const {
+    for (const SitedPanels::Sited& sited : panels.Panels())
+        if (sited.site.name == site && sited.site.refresh) sited.site.refresh(*sited.panel);
 }
 
 }  // namespace trovane::dialog

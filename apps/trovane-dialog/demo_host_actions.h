@@ -4,11 +4,14 @@
 // The alarm list is the server's alarm-list procedure for the dialog's object; a signal chosen in
 // the alarm list retargets the blocking panel (once per signal), and the single-signal option
 // follows the alarm panel's selection; fresh subscriptions ask every sited panel to read again.
-// The dialog's rectangle comes from its window when there is one. The requests of the panels still
-// to come (location, dial-up, data update) are traced and otherwise do nothing yet.
+// The dialog's rectangle comes from its window when there is one. A location chosen on the
+// operator place panel, the dial-up buttons and a data update are requests to the server for the
+// dialog's object; the panels show their outcome when the server's change comes back through the
+// host's subscriptions, and a request the server refuses fills its panel again from the server.
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "common/host_actions.h"
 #include "common/panel_sites.h"
@@ -25,16 +28,16 @@ class DemoHostActions final : public HostActions {
     // Where the dialog's window is; without one the position is all zero.
     void SetPositionSource(std::function<WindowPosition()> source) { positionSource = std::move(source); }
 
-    void Station_Select() override { Trace("Station_Select"); }
-    void NCC_Select() override { Trace("NCC_Select"); }
-    void Execute() override { Trace("Execute"); }
-    void updatestatustext() override { Trace("updatestatustext"); }
-    void MakeCall() override { Trace("MakeCall"); }
-    void HangUp() override { Trace("HangUp"); }
-    void MakeSync() override { Trace("MakeSync"); }
-    void makeUpdate() override { Trace("makeUpdate"); }
+    void Station_Select() override;
+    void NCC_Select() override;
+    void Execute() override;
+    void updatestatustext() override;
+    void MakeCall() override;
+    void HangUp() override;
+    void MakeSync() override;
+    void makeUpdate() override;
     void ShowDialUpOptionsDialog() override { Trace("ShowDialUpOptionsDialog"); }
-    void UpdateData() override { Trace("UpdateData"); }
+    void UpdateData() override;
     bool IsSelectedOnOtherMonitor() override { return false; }
     Variant GetAlarms() override;
     void SetBlockedSignal(const std::string& logicalName, int32_t index) override;
@@ -44,6 +47,10 @@ class DemoHostActions final : public HostActions {
 
   private:
     static void Trace(const std::string& request);
+    // Sends a request for the panel at `site`; when the server refuses it, the site's panel is
+    // filled again from the server.
+    void Request(const std::string& command, std::string_view site);
+    void RefreshSite(std::string_view site) const;
 
     const SitedPanels& panels;
     StandardContainer& container;

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "core/conversions.h"
+#include "sim/dial_up_lines.h"
 #include "sim/scenario.h"
 
 namespace trovane::dialog {
@@ -47,9 +48,9 @@ void DialogHost::Start(int32_t frameHandle) {
     if (started) return;
     started = true;
     functions->SetStartInfo(StartInformation(frameHandle));
-    panels.Start(ControlDialogSites(),
-                 SiteContext{*container, platform, Variant(ObjectRef(connection)), application,
-                             ObjectIdentity{options.objectName, options.index}});
+    const ObjectIdentity object{options.objectName, options.index};
+    panels.Start(ControlDialogSites(FeaturesOf(Server().Database(), object)),
+                 SiteContext{*container, platform, Variant(ObjectRef(connection)), application, object});
 }
 
 void DialogHost::Stop() {
@@ -58,7 +59,9 @@ void DialogHost::Stop() {
     panels.Stop();
 }
 
+// The server's time passes between pumps: dialling lines connect when their time has come.
 int32_t DialogHost::Pump() {
+    sim::AdvanceDialUpLines(Server().Database());
     return connection->Pump();
 }
 

@@ -9,6 +9,8 @@ namespace trovane::dialog {
 namespace {
 constexpr int32_t kAlarmListText = 237;
 constexpr int32_t kBlockingText = 196;
+constexpr int32_t kBayControlText = 593;
+constexpr int32_t kCommunicationText = 382;
 
 PanelSite Titled(PanelSite site, int32_t titleText) {
     site.titleText = titleText;
@@ -19,6 +21,8 @@ PanelSite Titled(PanelSite site, int32_t titleText) {
 const std::vector<DialogPage>& DialogPages() {
     static const std::vector<DialogPage> pages = {
         {"alarms", kAlarmListText},
+        {"operation", kBayControlText},
+        {"communication", kCommunicationText},
     };
     return pages;
 }
@@ -38,8 +42,8 @@ std::string DialogPageNames() {
 // The alarm list comes first, above the blocking panel on its page; its selection drives the
 // blocking panel, through the container, from the first notification on. The indication bar stands
 // above the pages and writes comments under the operator's name.
-std::vector<PanelSite> ControlDialogSites() {
-    return {
+std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features) {
+    std::vector<PanelSite> sites = {
         SiteOf<Alarms>(
             kAlarmSite, "alarms",
             [](Alarms& alarms, const SiteContext& context) {
@@ -65,6 +69,9 @@ std::vector<PanelSite> ControlDialogSites() {
             },
             [](IndicationBar& bar) { bar.Deactivate(); }),
     };
+    for (auto&& more : {OperationSites(features), CommunicationSites(features)})
+        sites.insert(sites.end(), more.begin(), more.end());
+    return sites;
 }
 
 }  // namespace trovane::dialog

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "common/panel_sites.h"
+#include "small_panel_sites.h"
 
 namespace trovane::dialog {
 
@@ -30,6 +31,7 @@ std::string DialogPageNames();
 // The area above the pages (the indication bar's place).
 inline constexpr const char* kTopArea = "";
 
-std::vector<PanelSite> ControlDialogSites();
+// The rows for the dialog's object: pages whose panels the object has nothing for are left out.
+std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features);
 
 }  // namespace trovane::dialog

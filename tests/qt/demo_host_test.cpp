@@ -38,10 +38,12 @@ TEST_F(DemoHostTest, SitesStartInTableOrderAndStopInReverse) {
     trovane::testing::TraceCapture trace;
     Open();
     const auto& panels = host->Panels().Panels();
-    ASSERT_EQ(panels.size(), 3u);
+    ASSERT_EQ(panels.size(), 5u);
     EXPECT_EQ(panels[0].site.name, "Alarms1");
     EXPECT_EQ(panels[1].site.name, "Blocking1");
     EXPECT_EQ(panels[2].site.name, "IndicationBar1");
+    EXPECT_EQ(panels[3].site.name, "OperatorPlace1");  // the breaker's location and counter
+    EXPECT_EQ(panels[4].site.name, "MiscFunctions1");
     EXPECT_LT(std::find(trace.Lines().begin(), trace.Lines().end(), "-> Alarms.Init"),
               std::find(trace.Lines().begin(), trace.Lines().end(), "-> Blocking.Init"));
     EXPECT_EQ(GetProperty(Container(), "Alarms1").AsObject(), panels[0].panel);
@@ -90,8 +92,8 @@ TEST_F(DemoHostTest, HostActionsServeTheAlarmListAndRetargetTheBlockingPanelOnce
     trace.Clear();
     CallMethod(Container(), "RefreshSubscriptions");
     EXPECT_TRUE(trace.Contains("-> Blocking.RefreshStates"));
-    CallMethod(Container(), "MakeCall");
-    EXPECT_TRUE(trace.Contains("Host: MakeCall requested"));
+    CallMethod(Container(), "ShowDialUpOptionsDialog");
+    EXPECT_TRUE(trace.Contains("Host: ShowDialUpOptionsDialog requested"));
     EXPECT_FALSE(ToBool(CallMethod(Container(), "IsSelectedOnOtherMonitor")));
     EXPECT_EQ(GetProperty(Container(), "Width"), Variant(int32_t{0})) << "no window, no position";
 }
