@@ -1,5 +1,5 @@
-// The dial-up panel on a fake container: shown and enabled buttons, rights read once and combined
-// bitwise, and the host requests the buttons make.
+// The dial-up and update-data panels on a fake container: shown and enabled buttons, rights read once and
+// combined bitwise, and the host requests the buttons make.
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dialup/dial_up.h"
+#include "dialup/update_data.h"
 #include "support/fake_container.h"
 #include "support/recording_host_actions.h"
 #include "support/trace_capture.h"
@@ -39,22 +40,18 @@ class DialUpTest : public ::testing::Test {
     std::shared_ptr<DialUp> panel = std::make_shared<DialUp>();
 };
 
-TEST_F(DialUpTest, InitTracesItsTwoSpellingsAndCaptionsTheButtons) {
+TEST_F(DialUpTest, InitTracesItsTwoSpellingsAndOnlyTheOptionalButtonsHide) {
     auto fresh = std::make_shared<DialUp>();
     fresh->SetParent(container->AsVariant());
     TraceCapture trace;
     fresh->Init();
     EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> Dialup.Init", "<- DialUp.Init"}));
-    EXPECT_EQ(fresh->btn_HangUp.Caption(), "Hang Up");
     EXPECT_EQ(fresh->btn_Settings.Caption(), "Settings ...");
-}
-
-TEST_F(DialUpTest, VisibilityConcernsOnlyTheThreeOptionalButtonsInTheirOrder) {
-    panel->Set_Button_Visibility(kFalse16, kTrue16, kFalse16);
-    EXPECT_FALSE(panel->btn_Sync.Visible());
-    EXPECT_TRUE(panel->btn_Update.Visible());
-    EXPECT_FALSE(panel->btn_Settings.Visible());
-    EXPECT_TRUE(panel->btn_Dial.Visible() && panel->btn_HangUp.Visible());
+    fresh->Set_Button_Visibility(kFalse16, kTrue16, kFalse16);
+    EXPECT_EQ(
+        (std::vector<bool>{fresh->btn_Dial.Visible(), fresh->btn_HangUp.Visible(), fresh->btn_Sync.Visible(),
+                           fresh->btn_Update.Visible(), fresh->btn_Settings.Visible()}),
+        (std::vector<bool>{true, true, false, true, false}));
 }
 
 TEST_F(DialUpTest, EachButtonIsTheHostsFlagAndTheRightBitwise) {
@@ -95,6 +92,43 @@ TEST_F(DialUpTest, ButtonsCallTheirHostMethodsAndOnlyDialAndHangUpDisableThemsel
     EXPECT_EQ(Enabled(), (std::vector<bool>{false, false, true, true, true}));
     panel->btn_Dial.Click();  // stays disabled until the host says otherwise
     EXPECT_EQ(actions->requests.size(), 5u);
+}
+
+class UpdateDataTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        AnswerHostActions(*container, actions);
+        panel->SetParent(container->AsVariant());
+    }
+
+    std::shared_ptr<FakeContainer> container = std::make_shared<FakeContainer>();
+    std::shared_ptr<RecordingHostActions> actions = std::make_shared<RecordingHostActions>();
+    std::shared_ptr<UpdateData> panel = std::make_shared<UpdateData>();
+};
+
+TEST_F(UpdateDataTest, AClickDisablesTheButtonUntilTheHostEnablesItByItsExactName) {
+    container->SetRight("IsUserAuthorized", false);
+    TraceCapture trace;
+    panel->Init();
+    EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> UpdateData.Init", "<- UpdateData.Init"}));
+    EXPECT_FALSE(panel->btn_UpdateData.Enabled());
+    container->SetRight("IsUserAuthorized", true);
+    panel->Init();
+    int changes = 0;
+    panel->btn_UpdateData.onChanged.Connect([&](ControlProperty) { ++changes; });
+    panel->btn_UpdateData.Click();
+    EXPECT_EQ(actions->requests, std::vector<std::string>{"UpdateData"});
+    EXPECT_FALSE(panel->btn_UpdateData.Enabled());
+    EXPECT_EQ(changes, 1);
+
+    const Variant updateData{ObjectRef(panel)};
+    for (const char* name : {"update_data", "UPDATE_DATA ", "DIAL"})
+        CallMethod(updateData, "Set_Button_State", {Variant(true), Variant(name)});
+    panel->Set_Button_State(kFalse16, "UPDATE_DATA");
+    EXPECT_EQ(changes, 1);
+    CallMethod(updateData, "Set_Button_State", {Variant(int16_t{1}), Variant("UPDATE_DATA")});
+    EXPECT_TRUE(panel->btn_UpdateData.Enabled());
+    EXPECT_EQ(changes, 2);
 }
 
 }  // namespace

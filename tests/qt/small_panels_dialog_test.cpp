@@ -50,7 +50,6 @@ class SmallPanelsDialogTest : public ::testing::Test {
         ASSERT_NE(widget, nullptr);
         QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->height() / 2, widget->height() / 2));
     }
-    // Clicks, then lets the server's changes reach the panels.
     void ClickAndSettle(QWidget* widget) {
         Click(widget);
         window->Settle();
@@ -72,13 +71,11 @@ class SmallPanelsDialogTest : public ::testing::Test {
 // options follow; the counter is reset and given a new limit typed into its box.
 TEST_F(SmallPanelsDialogTest, TheBreakerMovesToNccAndItsCounterIsResetAndLimited) {
     Open("ABC", 10, "operation");
-    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "operation"}));
+    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "operation", "substitution"}));
     auto* station = Widget<QRadioButton>("OperatorPlace", "Opt_Station");
     auto* ncc = Widget<QRadioButton>("OperatorPlace", "Opt_NCC");
     ASSERT_TRUE(station && ncc);
-    EXPECT_EQ(ncc->text(), "NCC");
-    EXPECT_TRUE(station->isChecked());
-    EXPECT_TRUE(ncc->isEnabled());
+    EXPECT_TRUE(station->isChecked() && ncc->isEnabled());
 
     ClickAndSettle(ncc);
     EXPECT_EQ(Ask("#return ABC:PSL10"), Variant(0));
@@ -132,14 +129,13 @@ TEST_F(SmallPanelsDialogTest, TheBaySetToLocalThroughItsControlValuesAllowsNoMor
 // asked for disables its button until the server has done it.
 TEST_F(SmallPanelsDialogTest, TheStationsButtonsFollowItsLineAndAnUpdateComesBack) {
     Open("RTU", 1, "communication");
-    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "communication"}));
+    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "communication", "substitution"}));
     auto* dial = Widget<QPushButton>("DialUp", "btn_Dial");
     auto* hangUp = Widget<QPushButton>("DialUp", "btn_HangUp");
     auto* sync = Widget<QPushButton>("DialUp", "btn_Sync");
     auto* settings = Widget<QPushButton>("DialUp", "btn_Settings");
     auto* update = Widget<QPushButton>("UpdateData", "btn_UpdateData");
     ASSERT_TRUE(dial && hangUp && sync && settings && update);
-    EXPECT_EQ(dial->text(), "Dial");
     EXPECT_TRUE(dial->isEnabled() && settings->isEnabled());
     EXPECT_FALSE(hangUp->isEnabled() || sync->isEnabled());
 

@@ -11,95 +11,61 @@ using ::trovane::testing::RecordingDataCallback;
 
 class LocationAndDialUpTest : public DemoServerTest {
   protected:
-    int32_t Refused(const std::string& command) {
+    int32_t StatusOf(const std::string& command) {
         int32_t status = 0;
         RunWithStatus(command, status);
         return status;
     }
-    static Variant Last(const RecordingDataCallback& callback, int32_t clientHandle) {
-        const auto values = callback.ValuesOf(clientHandle);
-        return values.empty() ? Variant() : values.back();
-    }
 };
-
-TEST_F(LocationAndDialUpTest, GetLocationAnswersWhatTheObjectHasAndTheCustomControlValues) {
-    const Variant breaker = Run(R"(#return do(BGU_LOCATION:C, "GET_LOCATION", ("ABC",10)))");
-    EXPECT_EQ(Item(breaker, "DEVICE"), Variant(0));
-    EXPECT_EQ(Item(breaker, "STATION"), Variant(1));
-    EXPECT_EQ(FindVexlListItem(breaker, "MULTI_LEVEL"), nullptr);
-    EXPECT_EQ(FindVexlListItem(breaker, "CUSTOM_VALUE"), nullptr);
-
-    const Variant bay = Run(R"(#return do(BGU_LOCATION:C, "GET_LOCATION", ("DEF",2)))");
-    EXPECT_EQ(Item(bay, "MULTI_LEVEL"), Variant(1));
-    EXPECT_EQ(Item(bay, "CUSTOM_VALUE"), Variant("Remote"));
-    EXPECT_EQ(Item(bay, "CUSTOM_ALLOWS_CONTROL"), Variant(1));
-    const Variant& values = Item(bay, "CUSTOM_CONTROL_VALUES");
-    ASSERT_TRUE(values.IsArray());
-    ASSERT_EQ(values.AsArray().Size(), 2u);
-    EXPECT_EQ(Item(values.AsArray().Elements()[1], "STATE"), Variant("Remote"));
-}
 
 TEST_F(LocationAndDialUpTest, StationAndNccMoveOnlyARemoteDeviceInABayThatAllowsControl) {
     Run(R"(#return do(BGU_LOCATION:C, "SELECT_NCC", ("ABC",10)))");
     EXPECT_EQ(Attribute("ABC", 10, "SL"), 0);
     Run("#SET ABC:PDL10=1");
-    EXPECT_NE(Refused(R"(#return do(BGU_LOCATION:C, "SELECT_STATION", ("ABC",10)))"), 0);
+    EXPECT_NE(StatusOf(R"(#return do(BGU_LOCATION:C, "SELECT_STATION", ("ABC",10)))"), 0);
     EXPECT_EQ(Attribute("ABC", 10, "SL"), 0);
 
+    const std::string bay = R"(#return do(BGU_LOCATION:C, "GET_LOCATION", ("DEF",2)))";
+    EXPECT_EQ(Item(Item(Run(bay), "CUSTOM_CONTROL_VALUES").AsArray().At(1), "STATE"), Variant("Local"));
     Run(R"(#return do(BGU_LOCATION:C, "SET_CUSTOM", ("DEF",2), "Local"))");
-    EXPECT_EQ(Item(Run(R"(#return do(BGU_LOCATION:C, "GET_LOCATION", ("DEF",2)))"), "CUSTOM_ALLOWS_CONTROL"),
-              Variant(0));
-    EXPECT_NE(Refused(R"(#return do(BGU_LOCATION:C, "SELECT_STATION", ("DEF",2)))"), 0);
-    EXPECT_NE(Refused(R"(#return do(BGU_LOCATION:C, "SET_CUSTOM", ("DEF",2), "Maintenance"))"), 0);
-    EXPECT_NE(Refused(R"(#return do(BGU_LOCATION:C, "SELECT_NCC", ("ABC",11)))"), 0);  // no location
-    EXPECT_NE(Refused(R"(#return do(BGU_LOCATION:C, "MOVE", ("ABC",10)))"), 0);
+    EXPECT_EQ(Item(Run(bay), "CUSTOM_ALLOWS_CONTROL"), Variant(0));
+    EXPECT_NE(StatusOf(R"(#return do(BGU_LOCATION:C, "SELECT_STATION", ("DEF",2)))"), 0);
+    EXPECT_NE(StatusOf(R"(#return do(BGU_LOCATION:C, "SET_CUSTOM", ("DEF",2), "Maintenance"))"), 0);
+    EXPECT_NE(StatusOf(R"(#return do(BGU_LOCATION:C, "SELECT_NCC", ("ABC",11)))"), 0);  // no location
 }
 
-TEST_F(LocationAndDialUpTest, ALineDialsConnectsAfterItsTimeAndHangsUpAndSubscribersSeeEachState) {
+TEST_F(LocationAndDialUpTest, ALineDialsConnectsOnTimeHangsUpAndAnUpdateSendsTheValuesAgain) {
     RecordingDataCallback callback;
     int32_t handle = 0;
     Variant results;
     connection->AddItems(MakeLongArray({1, 2}, 1),
-                         MakeStringArray({"\\\\APL\\1\\P\\RTU\\1:LS", "\\\\APL\\1\\P\\RTU\\1:UC"}, 1), 0, 200,
+                         MakeStringArray({"\\\\APL\\1\\P\\RTU\\1:LS", "\\\\APL\\1\\P\\RTU\\2:OV"}, 1), 0, 200,
                          handle, results);
     connection->SetCallback(&callback, handle);
     connection->Pump();
     callback.notifications.clear();
 
     Run(R"(#return do(BGU_DIALUP:C, "DIAL", ("RTU",1)))");
-    EXPECT_NE(Refused(R"(#return do(BGU_DIALUP:C, "DIAL", ("RTU",1)))"), 0);
-    EXPECT_NE(Refused(R"(#return do(BGU_DIALUP:C, "SYNC", ("RTU",1)))"), 0);
-    connection->Pump();
-    EXPECT_EQ(Last(callback, 1), Variant(kLineDialling));
-
+    EXPECT_NE(StatusOf(R"(#return do(BGU_DIALUP:C, "DIAL", ("RTU",1)))"), 0);
+    EXPECT_NE(StatusOf(R"(#return do(BGU_DIALUP:C, "SYNC", ("RTU",1)))"), 0);
     clock.now = MakeDate(2026, 11, 22, 9, 30, 16);
     EXPECT_EQ(AdvanceDialUpLines(Database()), 0);
+    connection->Pump();
     clock.now = MakeDate(2026, 11, 22, 9, 30, 17);
     EXPECT_EQ(AdvanceDialUpLines(Database()), 1);
     connection->Pump();
-    EXPECT_EQ(Last(callback, 1), Variant(kLineConnected));
+    EXPECT_EQ(callback.ValuesOf(1), (std::vector<Variant>{Variant(kLineDialling), Variant(kLineConnected)}));
 
     Run(R"(#return do(BGU_DIALUP:C, "SYNC", ("RTU",1)))");
     EXPECT_EQ(Attribute("RTU", 1, "SC"), 1);
-    Run(R"(#return do(BGU_DIALUP:C, "HANG_UP", ("RTU",1)))");
-    EXPECT_EQ(Attribute("RTU", 1, "LS"), kLineIdle);
-    EXPECT_NE(Refused(R"(#return do(BGU_DIALUP:C, "HANG_UP", ("RTU",1)))"), 0);
-    EXPECT_NE(Refused(R"(#return do(BGU_DIALUP:C, "DIAL", ("ABC",10)))"), 0);  // no line
-}
-
-TEST_F(LocationAndDialUpTest, AnUpdateSendsEveryValueOfTheNameAgainAndCountsItself) {
-    RecordingDataCallback callback;
-    int32_t handle = 0;
-    Variant results;
-    connection->AddItems(MakeLongArray({7}, 1), MakeStringArray({"\\\\APL\\1\\P\\RTU\\2:OV"}, 1), 0, 200,
-                         handle, results);
-    connection->SetCallback(&callback, handle);
-    connection->Pump();
-    callback.notifications.clear();
     Run(R"(#return do(BGU_DIALUP:C, "UPDATE", ("RTU",1)))");
-    EXPECT_EQ(connection->Pump(), 1);
-    EXPECT_EQ(Last(callback, 7), Variant(24.1));
     EXPECT_EQ(Attribute("RTU", 1, "UC"), 1);
+    Run(R"(#return do(BGU_DIALUP:C, "HANG_UP", ("RTU",1)))");
+    connection->Pump();
+    EXPECT_EQ(callback.ValuesOf(2), std::vector<Variant>{Variant(24.1)});
+    EXPECT_EQ(callback.ValuesOf(1).back(), Variant(kLineIdle));
+    EXPECT_NE(StatusOf(R"(#return do(BGU_DIALUP:C, "HANG_UP", ("RTU",1)))"), 0);
+    EXPECT_NE(StatusOf(R"(#return do(BGU_DIALUP:C, "DIAL", ("ABC",10)))"), 0);  // no line
 }
 
 }  // namespace
