@@ -10,6 +10,7 @@
 #include "opcounter/misc_functions.h"
 #include "operatorplace/operator_place.h"
 #include "server_requests.h"
+#include "sim/attribute_catalog.h"
 #include "sim/dial_up_lines.h"
 #include "sim/process_database.h"
 
@@ -158,10 +159,14 @@ PanelSite UpdateDataSite() {
 }
 }  // namespace
 
+// The counter panel reads the object type of the name's main object and subscribes that type's
+// attributes; the page shows it only where the object has them.
 ObjectFeatures FeaturesOf(sim::ProcessDatabase& database, const ObjectIdentity& object) {
     const sim::ProcessObject* found = database.FindObject(object.logicalName, object.index);
     if (!found) return {};
-    return {HasAny(*found, {"ML", "DL", "SL", "LV"}), HasAny(*found, {"CV", "AZ", "IU", "HI"}),
+    const sim::ProcessObject* main = database.FindGroup(object.logicalName)->MainObject();
+    const bool doubleBinary = main && main->Type() == sim::kDoubleBinaryType;
+    return {HasAny(*found, {"ML", "DL", "SL", "LV"}), HasAny(*found, {doubleBinary ? "CV" : "AZ"}),
             HasAny(*found, {"LS"})};
 }
 

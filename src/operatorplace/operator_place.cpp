@@ -3,6 +3,8 @@
 
 #include "operatorplace/operator_place.h"
 
+#include <algorithm>
+
 #include "core/conversions.h"
 #include "operatorplace/operator_place_layout.h"
 
@@ -43,6 +45,15 @@ void OperatorPlace::Init_UI() {
         PlaceSystemFrame();
     else
         Frm_System.SetVisible(false);
+    FitHeight();
+}
+
+// The panel is as high as the frames it shows need, so that a host leaves no empty space below.
+void OperatorPlace::FitHeight() {
+    int32_t bottom = Chk_MltLev.Visible() ? Chk_MltLev.Top() + Chk_MltLev.Height() : 0;
+    for (const Frame* frame : {&Frm_Dev, &Frm_System, &Frm_CustomLR})
+        if (frame->Visible()) bottom = std::max(bottom, frame->Top() + frame->Height());
+    SetHeight(bottom + layout::kFrameGap);
 }
 
 // Without the multi-level check box and the device frame the system frame goes to the top, even

@@ -76,6 +76,7 @@ class OperatorPlace : public Panel {
 
     void FillControlValues();
     void PlaceSystemFrame();
+    void FitHeight();
     void SetLocationOptionsEnabled(bool enabled);
     void ActOnLocationOption(const char* request);
     void OnControlValueClicked();
