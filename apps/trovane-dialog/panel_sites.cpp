@@ -3,6 +3,7 @@
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
 #include "indication/indication_bar.h"
+#include "substitution_site.h"
 
 namespace trovane::dialog {
 
@@ -23,6 +24,7 @@ const std::vector<DialogPage>& DialogPages() {
         {"alarms", kAlarmListText},
         {"operation", kBayControlText},
         {"communication", kCommunicationText},
+        {kSubstitutionPage, kSubstitutionText},
     };
     return pages;
 }
@@ -71,6 +73,7 @@ std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features) {
     };
     for (auto&& more : {OperationSites(features), CommunicationSites(features)})
         sites.insert(sites.end(), more.begin(), more.end());
+    sites.push_back(SubstitutionSite());
     return sites;
 }
 
