@@ -72,7 +72,7 @@ void Substitute::ShowStateEntry(const SubstitutionSignal& signal, int32_t states
             Opt_NA.SetValue(true);
         }
     }
-    if (IsSubstitutionHandlingAllowed) Chk_Enabled.SetEnabled(true);
+    Chk_Enabled.SetEnabled(IsSubstitutionHandlingAllowed);  // a right taken away by a new Init counts too
     Chk_Enabled.SetVisible(true);
     for (int16_t index = 0; index < states; ++index) {
         StateButton(index).SetCaption(signal.StateText(index + 1));
@@ -95,7 +95,7 @@ void Substitute::ShowAnalogEntry(const SubstitutionSignal& signal) {
         txt_Value.SetText(numbers.Text(signal.AnalogValue()));
         OnValueChanged();  // an unchanged text raises no Change, but is the value now
     }
-    if (IsSubstitutionHandlingAllowed) Chk_Enabled.SetEnabled(true);
+    Chk_Enabled.SetEnabled(IsSubstitutionHandlingAllowed);  // a right taken away by a new Init counts too
     txt_Value.SetEnabled(IsSubstitutionHandlingAllowed && ChkEnabledIsOn());
     Chk_Enabled.SetVisible(true);
     const float min = BoundValue(signal.Bound("MIN"), numbers);

@@ -11,10 +11,11 @@
 namespace trovane::testing {
 namespace {
 
+constexpr int32_t kSubstitutedIcon = 9;
+
 class SubstituteOnDemoServer : public ::testing::Test {
   protected:
     void SetUp() override {
-        host->Site("Alarms1", ObjectRef(alarms));
         alarms->SetParent(host->AsVariant());
         alarms->Activate(1, host->Server());
         panel->SetParent(host->AsVariant());
@@ -24,16 +25,22 @@ class SubstituteOnDemoServer : public ::testing::Test {
         host->Connection().Pump();
     }
 
-    // Selects the row of a signal by its text, as the operator clicks it.
-    void Choose(const std::string& text) {
+    // The list row of a signal, by its text; 0 when it is not listed.
+    int32_t Row(const std::string& text) const {
         for (int32_t row = 1; row <= panel->ListView1.ItemCount(); ++row)
-            if (panel->ListView1.Item(row).Text() == text) return panel->ListView1.ClickItem(row);
-        FAIL() << text << " is not listed";
+            if (panel->ListView1.Item(row).Text() == text) return row;
+        return 0;
     }
-    std::string ListedState(const std::string& text) const {
-        for (int32_t row = 1; row <= panel->ListView1.ItemCount(); ++row)
-            if (panel->ListView1.Item(row).Text() == text) return panel->ListView1.Item(row).SubItem(1);
-        return "not listed";
+    void SubstituteState(const std::string& text, int16_t state) {
+        panel->ListView1.ClickItem(Row(text));
+        panel->Chk_Enabled.Click();
+        panel->StateButton(state).Click();
+        panel->Btn_Set.Click();
+    }
+    void SubstituteValue(const std::string& value) {
+        panel->txt_Value.ClickWithMouse(keys::kLeftButton, 0, 0, 0);
+        for (char c : value) panel->txt_Value.TypeCharacter(static_cast<unsigned char>(c));
+        panel->txt_Value.PressKey(keys::kEnter);
     }
     Variant Server(int32_t index, const std::string& attribute) {
         return host->RunVexlCmd("#return ABC:P" + attribute + std::to_string(index));
@@ -45,67 +52,46 @@ class SubstituteOnDemoServer : public ::testing::Test {
                 return alarms->ListView1.Item(static_cast<int32_t>(i + 1)).SmallIcon();
         return 0;
     }
-    void TypeValue(const std::string& text) {
-        panel->txt_Value.ClickWithMouse(keys::kLeftButton, 0, 0, 0);
-        for (char c : text) panel->txt_Value.TypeCharacter(static_cast<unsigned char>(c));
-    }
 
     std::shared_ptr<SimulatedHost> host = std::make_shared<SimulatedHost>();
     std::shared_ptr<Alarms> alarms = std::make_shared<Alarms>();
     std::shared_ptr<Substitute> panel = std::make_shared<Substitute>();
 };
 
-constexpr int32_t kSubstitutedIcon = 9;
-
-TEST_F(SubstituteOnDemoServer, AnAnalogValueWithinItsRangeIsSubstitutedAndReportedAndTakingItOffRestoresIt) {
+TEST_F(SubstituteOnDemoServer,
+       AnalogBinaryAndDoubleBinarySubstitutionsReachTheServerAndTakingOneOffRestoresIt) {
     ASSERT_EQ(panel->ListView1.ItemCount(), 10);
-    Choose("Phase L1 current");
+    panel->ListView1.ClickItem(Row("Phase L1 current"));
     EXPECT_EQ(panel->lbl_Info.Caption(), " Min: 0, Max: 1000");
     panel->Chk_Enabled.Click();
-    TypeValue("1000.5");
-    panel->txt_Value.PressKey(keys::kEnter);
+    SubstituteValue("1000.5");
     EXPECT_EQ(Server(15, "SB"), Variant(int32_t{0})) << "outside the range: nothing sent";
-    TypeValue("12.5");
-    panel->txt_Value.PressKey(keys::kEnter);
+    SubstituteValue("12.5");
     EXPECT_EQ(Server(15, "OV"), Variant(12.5));
     EXPECT_EQ(Server(15, "SB"), Variant(int32_t{1}));
+    SubstituteState("SF6 gas pressure low", 1);
+    SubstituteState("Disconnector Q1", 3);
+    EXPECT_EQ(Server(12, "OV"), Variant(int32_t{1}));
+    EXPECT_EQ(Server(17, "OV"), Variant(int32_t{3}));
+    EXPECT_EQ(Server(17, "SB"), Variant(int32_t{1}));
 
     host->Connection().Pump();
-    EXPECT_EQ(AlarmIcon("ABC:15"), kSubstitutedIcon) << "after the server's notification";
+    for (const char* identity : {"ABC:12", "ABC:15", "ABC:17"})
+        EXPECT_EQ(AlarmIcon(identity), kSubstitutedIcon) << identity << " after the server's notification";
     panel->initUI();
-    EXPECT_EQ(ListedState("Phase L1 current"), "True");
+    EXPECT_EQ(panel->ListView1.Item(Row("SF6 gas pressure low")).SubItem(1), "True");
 
-    Choose("Phase L1 current");
+    panel->ListView1.ClickItem(Row("Phase L1 current"));  // a second value, then off
+    panel->Chk_Enabled.Click();
+    panel->Chk_Enabled.Click();
+    SubstituteValue("20");
+    panel->ListView1.ClickItem(Row("Phase L1 current"));
     panel->Chk_Enabled.Click();
     panel->Btn_Set.Click();
     EXPECT_EQ(Server(15, "SB"), Variant(int32_t{0}));
     EXPECT_EQ(Server(15, "OV"), Variant(312.5)) << "the process value again";
     host->Connection().Pump();
     EXPECT_NE(AlarmIcon("ABC:15"), kSubstitutedIcon);
-}
-
-TEST_F(SubstituteOnDemoServer, BinaryAndDoubleBinaryStatesAreSubstitutedByTheirButtons) {
-    Choose("SF6 gas pressure low");
-    ASSERT_EQ(panel->StateButton(1).Caption(), "Low");
-    panel->Chk_Enabled.Click();
-    panel->StateButton(1).Click();
-    panel->Btn_Set.Click();
-    EXPECT_EQ(Server(12, "OV"), Variant(int32_t{1}));
-    EXPECT_EQ(Server(12, "SB"), Variant(int32_t{1}));
-
-    Choose("Disconnector Q1");
-    panel->Chk_Enabled.Click();
-    panel->StateButton(1).Click();
-    panel->Btn_Set.Click();
-    EXPECT_EQ(Server(17, "OV"), Variant(int32_t{1}));
-    EXPECT_EQ(Server(17, "SB"), Variant(int32_t{1}));
-
-    host->Connection().Pump();
-    EXPECT_EQ(AlarmIcon("ABC:12"), kSubstitutedIcon);
-    EXPECT_EQ(AlarmIcon("ABC:17"), kSubstitutedIcon);
-    panel->initUI();
-    EXPECT_EQ(ListedState("SF6 gas pressure low"), "True");
-    EXPECT_EQ(ListedState("Disconnector Q1"), "True");
 }
 
 }  // namespace

@@ -26,13 +26,38 @@ inline Variant ValueList(const Attributes& attributes) {
     }
     return MakeVariantArray(std::move(elements));
 }
-
 inline Variant Vector(std::vector<Variant> elements) {
     return MakeVariantArray(std::move(elements), 1);
 }
-
 inline Variant SignalsAnswer(std::vector<Variant> signals) {
     return ValueList({{"STATUS", int32_t{0}}, {"SIGNALS", Vector(std::move(signals))}});
+}
+inline Variant Signal(const char* text, int32_t sb, int32_t pt, Variant ov, Attributes more = {}) {
+    Attributes all{{"TX", text}, {"SB", sb}, {"PT", pt}, {"OV", std::move(ov)}, {"LN", "ABC"}};
+    all.insert(all.end(), more.begin(), more.end());
+    return ValueList(all);
+}
+
+// A double binary in its first state, a substituted binary without state texts or value, an analog
+// signal and one without a type.
+inline Variant Breaker() {
+    return Signal("Breaker Q0", 0, 12, int32_t{0},
+                  {{"STATE_TEXTS", Vector({"Moving", "Open", "Closed", "Faulty"})},
+                   {"LOGICAL_DEVICE", "E01"},
+                   {"LOGICAL_NODE", "XCBR1"},
+                   {"DATA_OBJECT", "Pos"},
+                   {"DATA_ATTRIBUTE", "stVal"},
+                   {"IX", int32_t{10}}});
+}
+inline Variant Trip() {
+    return Signal("Trip", 1, 3, int32_t{-1}, {{"IX", int32_t{11}}});
+}
+inline Variant Current(Variant min = 0.0, Variant max = 1000.0) {
+    return Signal("Current", 0, 9, 312.5,
+                  {{"MIN", std::move(min)}, {"MAX", std::move(max)}, {"IX", int32_t{15}}});
+}
+inline Variant Untyped() {
+    return ValueList({{"TX", "Untyped"}, {"SB", int32_t{0}}});
 }
 
 // A locale whose decimal separator the test chooses.
@@ -45,57 +70,18 @@ class SeparatorLocale final : public Locale {
     std::string separator;
 };
 
-// Signals of the kinds the panel distinguishes, addressed as the server addresses them.
-inline Variant Breaker() {  // double binary, in the intermediate state
-    return ValueList({{"TX", "Breaker Q0"},
-                      {"SB", int32_t{0}},
-                      {"PT", int32_t{12}},
-                      {"OV", int32_t{0}},
-                      {"STATE_TEXTS", Vector({"Moving", "Open", "Closed", "Faulty"})},
-                      {"LOGICAL_DEVICE", "E01"},
-                      {"LOGICAL_NODE", "XCBR1"},
-                      {"DATA_OBJECT", "Pos"},
-                      {"DATA_ATTRIBUTE", "stVal"},
-                      {"LN", "ABC"},
-                      {"IX", int32_t{10}}});
-}
-inline Variant Trip() {  // binary, substituted, no state texts
-    return ValueList({{"TX", "Trip"},
-                      {"SB", int32_t{1}},
-                      {"PT", int32_t{3}},
-                      {"OV", int32_t{-1}},
-                      {"LN", "ABC"},
-                      {"IX", int32_t{11}}});
-}
-inline Variant Current(Variant min = 0.0, Variant max = 1000.0) {  // analog
-    return ValueList({{"TX", "Current"},
-                      {"SB", int32_t{0}},
-                      {"PT", int32_t{9}},
-                      {"OV", 312.5},
-                      {"MIN", std::move(min)},
-                      {"MAX", std::move(max)},
-                      {"LN", "ABC"},
-                      {"IX", int32_t{15}}});
-}
-inline Variant Untyped() {
-    return ValueList({{"TX", "Untyped"}, {"SB", int32_t{0}}, {"LN", "ABC"}, {"IX", int32_t{20}}});
-}
-
 class SubstitutePanelTest : public ::testing::Test {
   protected:
     void SetUp() override {
-        container->ConnectionObject().RespondWith(
-            [this](int16_t, const std::string& command) -> FakeConnection::Answer {
-                if (command.find("GET_SUBSTITUTION") != std::string::npos) return {answer, 0, {}};
-                return {ValueList({{"STATUS", int32_t{0}}}), 0, {}};
-            });
+        container->ConnectionObject().RespondWith([this](int16_t, const std::string& command) {
+            return FakeConnection::Answer{
+                command.find("GET_") != std::string::npos ? answer : Variant(0), 0, {}};
+        });
         MakePanel(".");
     }
-
     void MakePanel(const std::string& separator) {
-        locale = std::make_shared<SeparatorLocale>(separator);
         PlatformServices platform = PlatformServices::Defaults();
-        platform.locale = locale;
+        platform.locale = std::make_shared<SeparatorLocale>(separator);
         panel = std::make_shared<Substitute>(platform);
         panel->SetParent(container->AsVariant());
         panel->logicalName = "ABC";
@@ -106,12 +92,10 @@ class SubstitutePanelTest : public ::testing::Test {
     std::string LastCommand() const { return Commands().empty() ? "" : Commands().back(); }
     size_t SetCommands() const {
         size_t count = 0;
-        for (const std::string& command : Commands())
-            count += command.find("SET_SUBSTITUTION") != std::string::npos;
+        for (const std::string& command : Commands()) count += command.find("SET_SUB") != std::string::npos;
         return count;
     }
     OptionButton& State(int16_t index) const { return panel->StateButton(index); }
-    // The visible state buttons, as a count.
     int VisibleStates() const {
         int count = 0;
         for (int16_t i = 0; i < Substitute::kStateButtons; ++i) count += State(i).Visible();
@@ -124,7 +108,6 @@ class SubstitutePanelTest : public ::testing::Test {
 
     Variant answer = SignalsAnswer({Breaker(), Trip(), Current(), Untyped()});
     std::shared_ptr<FakeContainer> container = std::make_shared<FakeContainer>();
-    std::shared_ptr<SeparatorLocale> locale;
     std::shared_ptr<Substitute> panel;
 };
 
