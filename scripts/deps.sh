@@ -9,6 +9,7 @@ packages=(
     qt6-base-dev
     binutils-mingw-w64-x86-64 binutils-mingw-w64-i686
     clang libclang-rt-14-dev
+    mosquitto libmosquitto-dev libsqlite3-dev openssl
 )
 
 missing=()
