@@ -16,6 +16,15 @@
 //
 // The model's attribute position 1 is the row number "#", never a class attribute, so every
 // write walks the attributes from position 2.
+//
+// The table shows one row a tagout: its number, then the value of each visible attribute. Only the
+// owner of a tagout (compared without regard to case) may edit or remove it, only an authorised
+// user may add, and a panel whose object is selected on another monitor changes nothing. Adding and
+// editing happen in the edit dialog (TagoutEditDialog), removal after the removal dialog
+// (frmTagoutRemoval) confirms; both are opened through the presenter and ordered by the
+// container's "SetWindowOrder". Further container members: "sUserName",
+// "IsSelectedOnOtherMonitor", "IsUserAuthorized" (read once, at set-up), "DebugInfo" and the host
+// window's "Left", "Top", "Width" and "Height".
 
 #include <cstdint>
 #include <memory>
@@ -23,14 +32,55 @@
 #include <string_view>
 
 #include "common/panel.h"
+#include "platform/controls/command_button.h"
+#include "platform/controls/list_view.h"
 #include "tagout/cls_tagout.h"
 #include "tagout/str_coll.h"
 
 namespace trovane {
 
+class TagoutEditDialog;
+class TagoutRemovalDialog;
+
 class Tagout : public Panel {
   public:
     explicit Tagout(PlatformServices platform = PlatformServices::Defaults());
+    ~Tagout() override;
+
+    // ---- Set-up and the table ----------------------------------------------------------------
+    // Once: the class's attributes into the model and the table's columns, then the user's name
+    // and flags from the container.
+    Variant Init();
+    // Reads every active tagout (99 at most) into the model and the table.
+    void RefreshTagouts();
+    // Rewrites the table from the model and selects the row of `position` (none for 0).
+    void RefreshTagoutListView(int16_t position);
+    // A new tagout with empty values and a fresh key, selected, in the model and the table only.
+    void AddEmptyTagout();
+    // Takes the selected tagout away, on the server too; the tag indication follows the last
+    // remaining tagout, or is reset when none remains.
+    void RemoveTagout();
+    void SetButtonState();
+
+    // ---- The dialogs -------------------------------------------------------------------------
+    // Opens the edit dialog in mode "ADD" or "EDIT".
+    void ShowTagoutEditDialog(const std::string& mode);
+    void ShowRemovalDialog();
+    void UnLoadTagoutEditDialog();
+    void On_UnloadTagoutEditDialog();
+    // The open dialogs, or nullptr.
+    TagoutEditDialog* EditDialog() const;
+    TagoutRemovalDialog* RemovalDialog() const;
+
+    // Forwarded to the container, for the dialogs.
+    using Panel::GetNlsString;
+    using Panel::SetCharsetValues;
+    const PlatformServices& Platform() const { return services.Platform(); }
+
+    bool RowSelected() const { return rowSelected; }
+    bool OwnTagout() const { return ownTagout; }
+    bool OnOtherMonitor() const { return onOtherMonitor; }
+    bool Authorized() const { return authorized; }
 
     // ---- Class queries -----------------------------------------------------------------------
     bool bClassHasActionMethods();
@@ -85,13 +135,39 @@ class Tagout : public Panel {
     std::shared_ptr<clsTagout> clsActiveTagouts;
     std::shared_ptr<cStrColl> colChangedAttrNames;
 
+    ListView& ListView1;
+    CommandButton& btnAdd;
+    CommandButton& btnEdit;
+    CommandButton& btnRemove;
+
   private:
+    void LayOutControls();
+    void ConnectEvents();
     void RegisterMembers();
+    void RegisterPanelMembers();
+
+    void BuildColumns();
+    void ReadContainerFlags();
+    void ResetTagouts();
+    void AddTableRow(int16_t position);
+    void Widen(int32_t column, const std::string& text);
+    void OnItemClick();
+    void OnDblClick();
+    void PlaceOverHost(Form& dialog);
+    void PresentDialog(Form& dialog);
     // The server's message for an error code, or text 513 when it has none.
     std::string ErrorText(int32_t code);
     void Write(const std::string& command);
     std::string EditedValue(int16_t position, int16_t attribute, const std::string& name);
     std::string LocalKeyName() const;
+
+    bool setUpDone = false;
+    bool onOtherMonitor = false;
+    bool authorized = false;
+    bool rowSelected = false;
+    bool ownTagout = false;
+    std::shared_ptr<TagoutEditDialog> editDialog;
+    std::shared_ptr<TagoutRemovalDialog> removalDialog;
 };
 
 }  // namespace trovane

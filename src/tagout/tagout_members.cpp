@@ -47,4 +47,22 @@ void Tagout::RegisterMembers() {
     Members().Method("CreateUniqueKeyName", [this](Args) { return Variant(CreateUniqueKeyName()); });
 }
 
+// The panel's own operations, for the host and for its dialogs.
+void Tagout::RegisterPanelMembers() {
+    Members().Method("Init", [this](Args) { return Init(); });
+    Members().Method("RefreshTagouts", ReturningEmpty([this](Args) { RefreshTagouts(); }));
+    Members().Method("RefreshTagoutListView", ReturningEmpty([this](Args a) {
+                         RefreshTagoutListView(ToInt16(RequiredArgument(a, 0)));
+                     }));
+    Members().Method("AddEmptyTagout", ReturningEmpty([this](Args) { AddEmptyTagout(); }));
+    Members().Method("RemoveTagout", ReturningEmpty([this](Args) { RemoveTagout(); }));
+    Members().Method("SetButtonState", ReturningEmpty([this](Args) { SetButtonState(); }));
+    Members().Method("UnLoadTagoutEditDialog", ReturningEmpty([this](Args) { UnLoadTagoutEditDialog(); }));
+    Members().Method("On_UnloadTagoutEditDialog",
+                     ReturningEmpty([this](Args) { On_UnloadTagoutEditDialog(); }));
+    Members().Method("GetNlsString",
+                     [this](Args a) { return Variant(GetNlsString(ToInt32(RequiredArgument(a, 0)))); });
+    Members().Method("SetCharsetValues", ReturningEmpty([this](Args) { SetCharsetValues(); }));
+}
+
 }  // namespace trovane
