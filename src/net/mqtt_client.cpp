@@ -1,0 +1,253 @@
+#include "net/mqtt_client.h"
+
+#include <mosquitto.h>
+#include <mqtt_protocol.h>
+
+#include <atomic>
+#include <charconv>
+#include <cstdlib>
+#include <random>
+
+namespace trovane::net {
+
+namespace {
+
+constexpr int kKeepAliveSeconds = 10;
+constexpr int kQos = 1;
+
+// The library is set up once per process and never torn down: clients may live in statics.
+void InitialiseLibrary() {
+    static const int once = [] { return mosquitto_lib_init(); }();
+    (void)once;
+}
+
+std::string UniqueClientId() {
+    static std::atomic<unsigned> counter{0};
+    std::random_device random;
+    return "trovane-" + std::to_string(random()) + "-" + std::to_string(counter++);
+}
+
+std::string ReasonText(int reason) {
+    switch (reason) {
+        case MQTT_RC_BAD_USERNAME_OR_PASSWORD:
+            return "the user name or password was not accepted";
+        case MQTT_RC_NOT_AUTHORIZED:
+            return "this user is not allowed to connect";
+        default:
+            return mosquitto_reason_string(reason);
+    }
+}
+
+std::string ReadString(const mosquitto_property* properties, int identifier) {
+    char* value = nullptr;
+    if (!mosquitto_property_read_string(properties, identifier, &value, false) || !value) return {};
+    std::string text(value);
+    std::free(value);
+    return text;
+}
+
+}  // namespace
+
+std::string ParseBrokerUrl(std::string_view url, BrokerOptions& options) {
+    std::string_view rest;
+    if (url.starts_with("mqtt://")) {
+        options.tls = false;
+        options.port = 1883;
+        rest = url.substr(7);
+    } else if (url.starts_with("mqtts://")) {
+        options.tls = true;
+        options.port = 8883;
+        rest = url.substr(8);
+    } else {
+        return "the broker address must start with mqtt:// or mqtts://, not \"" + std::string(url) + "\"";
+    }
+    if (!rest.empty() && rest.back() == '/') rest.remove_suffix(1);
+    const size_t colon = rest.rfind(':');
+    std::string_view host = rest.substr(0, colon);
+    if (colon != std::string_view::npos) {
+        const std::string_view port = rest.substr(colon + 1);
+        int value = 0;
+        const auto [end, failure] = std::from_chars(port.data(), port.data() + port.size(), value);
+        if (failure != std::errc() || end != port.data() + port.size() || value < 1 || value > 65535)
+            return "the broker port must be a number from 1 to 65535, not \"" + std::string(port) + "\"";
+        options.port = value;
+    }
+    if (host.empty() || host.find_first_of("/@ ") != std::string_view::npos)
+        return "no broker host in \"" + std::string(url) + "\"";
+    options.host = host;
+    return {};
+}
+
+MqttClient::MqttClient(BrokerOptions options, Handlers handlers)
+    : options_(std::move(options)), handlers_(std::move(handlers)) {
+    InitialiseLibrary();
+    if (options_.clientId.empty()) options_.clientId = UniqueClientId();
+    handle_ = mosquitto_new(options_.clientId.c_str(), true, this);
+    if (!handle_) throw NetworkError("cannot create a broker client");
+    mosquitto_int_option(handle_, MOSQ_OPT_PROTOCOL_VERSION, MQTT_PROTOCOL_V5);
+    mosquitto_connect_v5_callback_set(handle_, &MqttClient::OnConnect);
+    mosquitto_disconnect_v5_callback_set(handle_, &MqttClient::OnDisconnect);
+    mosquitto_message_v5_callback_set(handle_, &MqttClient::OnMessage);
+    mosquitto_log_callback_set(handle_, &MqttClient::OnLog);
+    // Back-off after a lost connection: 1 s, 2 s, 4 s ... at most 8 s between attempts.
+    mosquitto_reconnect_delay_set(handle_, 1, 8, true);
+    if (!options_.user.empty())
+        mosquitto_username_pw_set(handle_, options_.user.c_str(),
+                                  options_.password.empty() ? nullptr : options_.password.c_str());
+    if (options_.tls) {
+        const int rc = mosquitto_tls_set(handle_, options_.caFile.empty() ? nullptr : options_.caFile.c_str(),
+                                         options_.caFile.empty() ? "/etc/ssl/certs" : nullptr, nullptr,
+                                         nullptr, nullptr);
+        if (rc != MOSQ_ERR_SUCCESS) {
+            mosquitto_destroy(handle_);
+            throw NetworkError("TLS set-up failed (" + options_.caFile + "): " + mosquitto_strerror(rc));
+        }
+    }
+}
+
+MqttClient::~MqttClient() {
+    Disconnect();
+    mosquitto_destroy(handle_);
+}
+
+std::string MqttClient::Describe() const {
+    return std::string(options_.tls ? "mqtts://" : "mqtt://") + options_.host + ":" +
+           std::to_string(options_.port);
+}
+
+void MqttClient::SetWill(const std::string& topic, std::string_view payload) {
+    mosquitto_will_set_v5(handle_, topic.c_str(), static_cast<int>(payload.size()), payload.data(), kQos,
+                          true, nullptr);
+}
+
+void MqttClient::Connect() {
+    {
+        std::lock_guard lock(mutex_);
+        refusal_.reset();
+        lastError_.clear();
+    }
+    int rc = mosquitto_connect_bind_v5(handle_, options_.host.c_str(), options_.port, kKeepAliveSeconds,
+                                       nullptr, nullptr);
+    // A broker that is not there yet is retried by the network thread like a lost connection.
+    if (rc != MOSQ_ERR_SUCCESS && rc != MOSQ_ERR_ERRNO && rc != MOSQ_ERR_CONN_REFUSED)
+        throw NetworkError("cannot connect to the broker at " + Describe() + ": " + mosquitto_strerror(rc));
+    rc = mosquitto_loop_start(handle_);
+    if (rc != MOSQ_ERR_SUCCESS)
+        throw NetworkError(std::string("no network thread: ") + mosquitto_strerror(rc));
+    started_ = true;
+    std::unique_lock lock(mutex_);
+    const bool answered = changed_.wait_for(lock, options_.connectTimeout,
+                                            [this] { return connected_ || refusal_.has_value(); });
+    if (connected_) return;
+    const std::string reason = refusal_
+                                   ? ReasonText(*refusal_)
+                                   : "no answer within " + std::to_string(options_.connectTimeout.count()) +
+                                         " ms" + (lastError_.empty() ? "" : " (" + lastError_ + ")");
+    (void)answered;
+    lock.unlock();
+    Disconnect();
+    throw NetworkError("the broker at " + Describe() + " refused the connection: " + reason);
+}
+
+void MqttClient::Disconnect() {
+    if (!started_) return;
+    mosquitto_disconnect_v5(handle_, MQTT_RC_NORMAL_DISCONNECTION, nullptr);
+    mosquitto_loop_stop(handle_, false);
+    started_ = false;
+    std::lock_guard lock(mutex_);
+    connected_ = false;
+}
+
+bool MqttClient::Publish(const std::string& topic, std::string_view payload, bool retain,
+                         const MqttMessage* properties) {
+    mosquitto_property* list = nullptr;
+    if (properties) {
+        if (!properties->responseTopic.empty())
+            mosquitto_property_add_string(&list, MQTT_PROP_RESPONSE_TOPIC, properties->responseTopic.c_str());
+        if (!properties->correlation.empty())
+            mosquitto_property_add_binary(&list, MQTT_PROP_CORRELATION_DATA, properties->correlation.data(),
+                                          static_cast<uint16_t>(properties->correlation.size()));
+        if (!properties->user.empty())
+            mosquitto_property_add_string_pair(&list, MQTT_PROP_USER_PROPERTY, "user",
+                                               properties->user.c_str());
+    }
+    const int rc = mosquitto_publish_v5(handle_, nullptr, topic.c_str(), static_cast<int>(payload.size()),
+                                        payload.data(), kQos, retain, list);
+    mosquitto_property_free_all(&list);
+    return rc == MOSQ_ERR_SUCCESS;
+}
+
+bool MqttClient::Subscribe(const std::string& topic) {
+    return mosquitto_subscribe_v5(handle_, nullptr, topic.c_str(), kQos, 0, nullptr) == MOSQ_ERR_SUCCESS;
+}
+
+bool MqttClient::Unsubscribe(const std::string& topic) {
+    return mosquitto_unsubscribe_v5(handle_, nullptr, topic.c_str(), nullptr) == MOSQ_ERR_SUCCESS;
+}
+
+bool MqttClient::Connected() const {
+    std::lock_guard lock(mutex_);
+    return connected_;
+}
+
+void MqttClient::OnConnect(mosquitto*, void* self, int reason, int, const mosquitto_property*) {
+    auto& client = *static_cast<MqttClient*>(self);
+    {
+        std::lock_guard lock(client.mutex_);
+        if (reason == 0)
+            client.connected_ = true;
+        else if (!client.refusal_)
+            client.refusal_ = reason;
+    }
+    client.changed_.notify_all();
+    if (reason == 0 && client.handlers_.onConnect) client.handlers_.onConnect();
+}
+
+void MqttClient::OnDisconnect(mosquitto*, void* self, int, const mosquitto_property*) {
+    auto& client = *static_cast<MqttClient*>(self);
+    {
+        std::lock_guard lock(client.mutex_);
+        client.connected_ = false;
+    }
+    client.changed_.notify_all();
+    if (client.handlers_.onDisconnect) client.handlers_.onDisconnect();
+}
+
+void MqttClient::OnMessage(mosquitto*, void* self, const mosquitto_message* message,
+                           const mosquitto_property* properties) {
+    auto& client = *static_cast<MqttClient*>(self);
+    if (!client.handlers_.onMessage) return;
+    MqttMessage received;
+    received.topic = message->topic;
+    if (message->payloadlen > 0)
+        received.payload.assign(static_cast<const char*>(message->payload),
+                                static_cast<size_t>(message->payloadlen));
+    received.retained = message->retain;
+    received.responseTopic = ReadString(properties, MQTT_PROP_RESPONSE_TOPIC);
+    void* correlation = nullptr;
+    uint16_t size = 0;
+    if (mosquitto_property_read_binary(properties, MQTT_PROP_CORRELATION_DATA, &correlation, &size, false) &&
+        correlation) {
+        received.correlation.assign(static_cast<const char*>(correlation), size);
+        std::free(correlation);
+    }
+    bool skipFirst = false;
+    for (const mosquitto_property* at = properties; at; skipFirst = true) {
+        char* name = nullptr;
+        char* value = nullptr;
+        at = mosquitto_property_read_string_pair(at, MQTT_PROP_USER_PROPERTY, &name, &value, skipFirst);
+        if (at && name && value && std::string_view(name) == "user") received.user = value;
+        std::free(name);
+        std::free(value);
+    }
+    client.handlers_.onMessage(received);
+}
+
+void MqttClient::OnLog(mosquitto*, void* self, int level, const char* text) {
+    if (level != MOSQ_LOG_ERR || !text) return;
+    auto& client = *static_cast<MqttClient*>(self);
+    std::lock_guard lock(client.mutex_);
+    client.lastError_ = text;
+}
+
+}  // namespace trovane::net

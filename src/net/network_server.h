@@ -1,0 +1,80 @@
+#pragma once
+// The simulated server on the broker: one application's process database serving any number of
+// workstations.
+//
+// It takes the commands of its application's request topic (MQTT 5 request/response: the answer
+// goes to the request's response topic with its correlation data), runs them in the simulated
+// server and answers result and status. Every attribute a command changes is published, retained,
+// on its item topic (topics.h) with the commanding user, before the answer leaves, so a workstation
+// that receives its answer has its notifications on the way and a new subscriber gets the current
+// value at once. An item is first published when a workstation asks for it ("ITEMS").
+//
+// All server work happens on the client's network thread, one message at a time, so the simulated
+// server needs no locking. A message that cannot be decoded is dropped and logged.
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "net/mqtt_client.h"
+#include "net/wire_messages.h"
+#include "sim/simulated_server.h"
+
+namespace trovane::net {
+
+// What one command changed, for whoever keeps the server's state (before the answer is sent).
+struct CommandRecord {
+    std::string user;
+    std::string command;
+    Date time;
+    std::vector<sim::ItemKey> changes;
+};
+
+class NetworkServer {
+  public:
+    using Log = std::function<void(const std::string&)>;
+    // Called with each changing command before its answer; a throw answers the command as failed.
+    using Journal = std::function<void(const CommandRecord&)>;
+
+    NetworkServer(std::shared_ptr<sim::SimulatedServer> server, BrokerOptions broker, Log log = {});
+    ~NetworkServer();
+    NetworkServer(const NetworkServer&) = delete;
+    NetworkServer& operator=(const NetworkServer&) = delete;
+
+    void SetJournal(Journal journal) { journal_ = std::move(journal); }
+    // Connects, subscribes and announces the server online; NetworkError when the broker refuses.
+    void Start();
+    // Announces the server offline and disconnects.
+    void Stop();
+
+    int16_t Application() const { return application_; }
+    // The user of the last command that changed the item, empty when none did since the start.
+    std::string LastUser(const sim::ItemKey& key) const;
+
+  private:
+    void OnConnect();
+    void OnMessage(const MqttMessage& message);
+    Response Handle(const Request& request);
+    Response Execute(const Request& request);
+    Response CheckItems(const Request& request);
+    void PublishItem(const sim::ItemKey& key, const std::string& user);
+
+    std::shared_ptr<sim::SimulatedServer> server_;
+    int16_t application_;
+    Log log_;
+    Journal journal_;
+    std::unique_ptr<MqttClient> client_;
+    int32_t listenerId_ = 0;
+    std::vector<sim::ItemKey> changes_;
+    struct Published {
+        sim::ItemKey key;
+        std::string user;  // of the last change
+    };
+    std::map<std::string, Published> published_;  // by item topic
+    mutable std::mutex usersMutex_;
+};
+
+}  // namespace trovane::net
