@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabBar>
+#include <QTabWidget>
 
 #include "platform/controls/combo_box.h"
 #include "platform/controls/tab_strip.h"
@@ -81,13 +82,17 @@ void ComboBoxBinding::ShowChoice() {
         combo->setEditText(ToQString(model.Text()));
 }
 
+// A tab widget with empty pages: it draws the tabs and the pane, and the frames that the form
+// stacks over the pane show the selected tab's content. The tab changes however the operator
+// makes it (a click, the arrow keys on the focused tabs, Ctrl+Tab), and mirroring the model's
+// choice back raises nothing.
 QWidget* TabStripBinding::CreateView(QWidget* parent) {
-    auto* bar = new QTabBar(parent);
-    bar->setExpanding(false);
-    QObject::connect(bar, &QTabBar::tabBarClicked, this, [this](int index) {
+    auto* tabs = new QTabWidget(parent);
+    tabs->tabBar()->setExpanding(false);
+    QObject::connect(tabs, &QTabWidget::currentChanged, this, [this](int index) {
         if (index >= 0) Input([&] { Strip(Model()).ClickTab(index + 1); });
     });
-    return bar;
+    return tabs;
 }
 
 void TabStripBinding::MirrorOwn(ControlProperty property) {
@@ -115,17 +120,21 @@ void TabStripBinding::AfterInput() {
 }
 
 void TabStripBinding::ShowTabs() {
-    auto* bar = qobject_cast<QTabBar*>(View());
-    if (!bar) return;
-    while (bar->count() > 0) bar->removeTab(0);
+    auto* tabs = qobject_cast<QTabWidget*>(View());
+    if (!tabs) return;
+    while (tabs->count() > 0) {
+        QWidget* page = tabs->widget(0);
+        tabs->removeTab(0);
+        delete page;
+    }
     const TabStrip& model = Strip(Model());
     for (int32_t position = 1; position <= model.TabCount(); ++position)
-        bar->addTab(ToQString(model.GetTab(position).caption));
+        tabs->addTab(new QWidget(tabs), ToQString(model.GetTab(position).caption));
 }
 
 void TabStripBinding::ShowSelectedTab() {
-    auto* bar = qobject_cast<QTabBar*>(View());
-    if (bar) bar->setCurrentIndex(Strip(Model()).SelectedTab() - 1);
+    auto* tabs = qobject_cast<QTabWidget*>(View());
+    if (tabs) tabs->setCurrentIndex(Strip(Model()).SelectedTab() - 1);
 }
 
 }  // namespace trovane::qt

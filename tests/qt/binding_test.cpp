@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 
 #include "platform/controls/controls.h"
@@ -242,10 +243,13 @@ TEST_F(BindingTest, ComboAndTabChoicesGoToTheModelAndBack) {
     EXPECT_EQ(clicks, 1);
     combo.SetListIndex(0);
     EXPECT_EQ(widget->currentIndex(), 0);
-    auto* bar = WidgetOf<QTabBar>("TabStrip1");
+    auto* bar = WidgetOf<QTabWidget>("TabStrip1")->tabBar();
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(1).center());
     EXPECT_EQ(tabs.SelectedTab(), 2);
     EXPECT_EQ(bar->currentIndex(), 1);
+    bar->setFocus();
+    QTest::keyClick(bar, Qt::Key_Left);  // the keyboard's choice reaches the model too
+    EXPECT_EQ(tabs.SelectedTab(), 1);
 }
 
 TEST_F(BindingTest, ControlsAddedLaterGetWidgetsAndTheFormFollowsShowAndUnload) {
