@@ -12,7 +12,7 @@ namespace trovane {
 namespace {
 constexpr int32_t kMargin = 60;
 constexpr int32_t kPanelWidth = 6600;
-constexpr int32_t kListHeight = 1800;
+constexpr int32_t kListHeight = 3300;
 constexpr int32_t kButtonTop = kMargin + kListHeight + 90;
 constexpr int32_t kButtonWidth = 1095;
 constexpr int32_t kButtonHeight = 375;

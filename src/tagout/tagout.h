@@ -151,6 +151,7 @@ class Tagout : public Panel {
     void ResetTagouts();
     void AddTableRow(int16_t position);
     void Widen(int32_t column, const std::string& text);
+    int32_t ColumnWidth(const std::string& text) const;
     void OnItemClick();
     void OnDblClick();
     void PlaceOverHost(Form& dialog);

@@ -5,13 +5,15 @@
 // number, which is how a clicked row finds its tagout again.
 
 #include "core/conversions.h"
+#include "platform/window_system.h"
 #include "tagout/tagout.h"
 #include "tagout/tagout_values.h"
 
 namespace trovane {
 
 namespace {
-constexpr int32_t kColumnPadding = 20;
+// Beside its widest text a column keeps 20 pixels, for the cell's margins.
+constexpr int32_t kColumnPaddingPixels = 20;
 
 std::string Upper(std::string text) {
     for (char& c : text)
@@ -56,7 +58,7 @@ void Tagout::BuildColumns() {
         return;
     }
     clsTagout& model = *clsActiveTagouts;
-    ListView1.AddColumn("#", TextWidth("#") + kColumnPadding);
+    ListView1.AddColumn("#", ColumnWidth("#"));
     model.AddAttrName("#", 0);
     model.AddAttrTitle("#", 0);
     model.AddAttrType("NONE", 0);
@@ -70,7 +72,7 @@ void Tagout::BuildColumns() {
         model.AddAttrType(TextOf(GetVOSKClassAttributeProperty(name, "TYPE", "String")), 0);
         if (TruthOf(ElementOf(visible, i), true)) {
             model.AddAttrVisible("TRUE", 0);
-            ListView1.AddColumn(title, TextWidth(title) + kColumnPadding);
+            ListView1.AddColumn(title, ColumnWidth(title));
         } else {
             model.AddAttrVisible("FALSE", 0);
         }
@@ -140,8 +142,13 @@ void Tagout::AddTableRow(int16_t position) {
 
 void Tagout::Widen(int32_t column, const std::string& text) {
     if (column > ListView1.ColumnCount()) return;
-    const int32_t width = TextWidth(text) + kColumnPadding;
+    const int32_t width = ColumnWidth(text);
     if (ListView1.Column(column).width < width) ListView1.SetColumnWidth(column, width);
+}
+
+int32_t Tagout::ColumnWidth(const std::string& text) const {
+    return TextWidth(text) +
+           RoundToInt32(kColumnPaddingPixels * services.Platform().windows->TwipsPerPixelX());
 }
 
 void Tagout::AddEmptyTagout() {

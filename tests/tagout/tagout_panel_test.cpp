@@ -27,6 +27,7 @@ std::vector<std::string> RowTexts(const ListView& list, int32_t row) {
     return texts;
 }
 
+// Columns keep 20 pixels beside their text: 15 twips a pixel headless.
 TEST_F(TagoutPanel, InitBuildsModelAndColumnsOfVisibleAttributesAndReadsTheContainerOnce) {
     TraceCapture trace;
     Start();
@@ -34,8 +35,8 @@ TEST_F(TagoutPanel, InitBuildsModelAndColumnsOfVisibleAttributesAndReadsTheConta
     EXPECT_EQ(ColumnTexts(list),
               (std::vector<std::string>{"#", "Owner", "Date", "Time", "Priority", "Tag text", "Symbol",
                                         "Comment", "Local block 01"}));
-    EXPECT_EQ(list.Column(1).width, panel->TextWidth("#") + 20);
-    EXPECT_EQ(list.Column(6).width, panel->TextWidth("Tag text") + 20);
+    EXPECT_EQ(list.Column(1).width, panel->TextWidth("#") + 20 * 15);
+    EXPECT_EQ(list.Column(6).width, panel->TextWidth("Tag text") + 20 * 15);
     const clsTagout& model = *panel->clsActiveTagouts;
     EXPECT_EQ(model.AttrInstValue(1, "Name"), "#");
     EXPECT_EQ(model.AttrInstValue(1, "Type"), "NONE");
@@ -78,7 +79,7 @@ TEST_F(TagoutPanel, RefreshShowsOneRowPerTagoutWithVisibleValuesAndEmptyCellsFor
                                                            "Feeder", "Danger", "Cable", "X"}));
     EXPECT_EQ(RowTexts(list, 2),
               (std::vector<std::string>{"2", "someone with a long name", "", "", "", "", "", "", ""}));
-    EXPECT_EQ(list.Column(2).width, panel->TextWidth("someone with a long name") + 20);
+    EXPECT_EQ(list.Column(2).width, panel->TextWidth("someone with a long name") + 20 * 15);
     const clsTagout& model = *panel->clsActiveTagouts;
     EXPECT_EQ(model.GetCollName(2), "K2");
     EXPECT_EQ(model.AttrValue(1, "ORIGIN"), "");
