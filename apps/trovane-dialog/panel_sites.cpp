@@ -4,6 +4,7 @@
 #include "blocking/blocking.h"
 #include "indication/indication_bar.h"
 #include "substitution_site.h"
+#include "tagout_site.h"
 
 namespace trovane::dialog {
 
@@ -25,6 +26,7 @@ const std::vector<DialogPage>& DialogPages() {
         {"operation", kBayControlText},
         {"communication", kCommunicationText},
         {kSubstitutionPage, kSubstitutionText},
+        {kTagoutPage, kTagoutText},
     };
     return pages;
 }
@@ -74,6 +76,7 @@ std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features) {
     for (auto&& more : {OperationSites(features), CommunicationSites(features)})
         sites.insert(sites.end(), more.begin(), more.end());
     sites.push_back(SubstitutionSite());
+    sites.push_back(TagoutSite());
     return sites;
 }
 
