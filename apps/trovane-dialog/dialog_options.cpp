@@ -37,6 +37,9 @@ std::string ApplyValue(DialogOptions& options, std::string_view name, const std:
     } else if (name == "--screenshot") {
         if (value.empty()) return "--screenshot needs a file name";
         options.screenshotFile = value;
+    } else if (name == "--screenshot-dialog") {
+        if (value.empty()) return "--screenshot-dialog needs a button name";
+        options.screenshotDialogButton = value;
     } else if (name == "--page") {
         if (!FindDialogPage(value)) return "--page takes one of: " + DialogPageNames();
         options.page = value;
@@ -73,7 +76,7 @@ ParsedOptions ParseDialogOptions(std::span<const char* const> arguments) {
 std::string DialogUsage() {
     return "Usage: trovane-dialog [--object NAME] [--index N] [--scenario FILE] [--user NAME]\n"
            "                      [--language CODE] [--rights all|none|LIST] [--trace]\n"
-           "                      [--screenshot FILE.png] [--page NAME]\n"
+           "                      [--screenshot FILE.png] [--page NAME] [--screenshot-dialog BUTTON]\n"
            "The control dialog of one process object (default ABC 10) on the simulated server.\n"
            "Rights LIST: comma-separated, of " +
            std::string(kRightNames) + ".\n";

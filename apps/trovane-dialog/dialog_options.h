@@ -9,6 +9,8 @@
 //   --trace                   the library's trace to standard error
 //   --screenshot FILE.png     render the dialog off-screen, write the picture and exit
 //   --page NAME               the page shown first (alarms, ...), for example in a screenshot
+//   --screenshot-dialog NAME  with --screenshot: press the shown page's button NAME and picture
+//                             the dialog it opens instead of the control dialog
 //   --help
 
 #include <cstdint>
@@ -30,6 +32,7 @@ struct DialogOptions {
     bool trace = false;
     std::optional<std::string> screenshotFile;
     std::optional<std::string> page;
+    std::optional<std::string> screenshotDialogButton;
     bool help = false;
     // Not from the command line: where the in-process server is installed (its icon directories);
     // empty keeps the scenario's own root.

@@ -46,7 +46,16 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
     window.Settle();
 
     if (!options.screenshotFile) return QApplication::exec();
-    if (!dialog::WriteScreenshot(window, *options.screenshotFile)) {
+    QWidget* pictured = &window;
+    if (options.screenshotDialogButton) {
+        pictured = dialog::OpenDialogWith(window, *options.screenshotDialogButton);
+        if (!pictured) {
+            std::cerr << "trovane-dialog: " << *options.screenshotDialogButton << " opened no dialog\n";
+            return 2;
+        }
+        window.Settle();
+    }
+    if (!dialog::WriteScreenshot(*pictured, *options.screenshotFile)) {
         std::cerr << "trovane-dialog: cannot write " << *options.screenshotFile << '\n';
         return 1;
     }

@@ -11,4 +11,8 @@ namespace trovane::dialog {
 // written.
 bool WriteScreenshot(QWidget& window, const std::string& fileName);
 
+// Presses the visible button named `buttonName` in `window` and answers the window it opened (the
+// newest other visible top-level window), or nullptr when there is no such button or no new window.
+QWidget* OpenDialogWith(QWidget& window, const std::string& buttonName);
+
 }  // namespace trovane::dialog
