@@ -10,7 +10,7 @@ namespace {
 constexpr size_t kGrowthStep = 30;
 }  // namespace
 
-cStrColl::cStrColl(std::shared_ptr<MessageBox> box) : slots(kGrowthStep), messageBox(std::move(box)) {
+cStrColl::cStrColl(std::shared_ptr<MessageBox> box) : slotTexts(kGrowthStep), messageBox(std::move(box)) {
     RegisterMembers();
 }
 
@@ -22,26 +22,26 @@ Variant cStrColl::Invoke(std::string_view member, CallKind kind, std::span<Varia
 std::string cStrColl::Item(int16_t index) const {
     if (index >= Size()) return std::string();
     if (index < 1) throw Error(ErrorNumber::SubscriptOutOfRange);
-    return slots[static_cast<size_t>(index) - 1];
+    return slotTexts[static_cast<size_t>(index) - 1];
 }
 
 void cStrColl::SetItem(int16_t index, const std::string& value) {
     if (index >= Size()) return;
     if (index < 1) throw Error(ErrorNumber::SubscriptOutOfRange);
-    slots[static_cast<size_t>(index) - 1] = value;
+    slotTexts[static_cast<size_t>(index) - 1] = value;
     if (index > count) count = index;
 }
 
 Variant cStrColl::StrArray() const {
-    VariantArray copy(ElementKind::String, 1, slots.size());
-    for (size_t i = 0; i < slots.size(); ++i) copy.Set(static_cast<int64_t>(i) + 1, slots[i]);
+    VariantArray copy(ElementKind::String, 1, slotTexts.size());
+    for (size_t i = 0; i < slotTexts.size(); ++i) copy.Set(static_cast<int64_t>(i) + 1, slotTexts[i]);
     return Variant(std::move(copy));
 }
 
 void cStrColl::Add(const std::string& value) {
-    if (count == Size()) slots.resize(slots.size() + kGrowthStep);
+    if (count == Size()) slotTexts.resize(slotTexts.size() + kGrowthStep);
     const int16_t next = CheckedAdd<int16_t>(count, 1);
-    slots[static_cast<size_t>(next) - 1] = value;
+    slotTexts[static_cast<size_t>(next) - 1] = value;
     count = next;
 }
 
@@ -50,7 +50,7 @@ void cStrColl::AddNew(const std::string& value) {
 }
 
 void cStrColl::Clear() {
-    slots.assign(kGrowthStep, std::string());
+    slotTexts.assign(kGrowthStep, std::string());
     count = 0;
 }
 

@@ -36,7 +36,7 @@ class cStrColl : public Object {
 
     const std::string& CollName() const { return collName; }
     void SetCollName(std::string name) { collName = std::move(name); }
-    int32_t Size() const { return static_cast<int32_t>(slots.size()); }
+    int32_t Size() const { return static_cast<int32_t>(slotTexts.size()); }
     int16_t Count() const { return count; }
 
     std::string Item(int16_t index) const;
@@ -55,7 +55,7 @@ class cStrColl : public Object {
   private:
     void RegisterMembers();
 
-    std::vector<std::string> slots;  // slot n is slots[n - 1]
+    std::vector<std::string> slotTexts;  // slot n is slotTexts[n - 1]; not "slots", which Qt takes for itself
     int16_t count = 0;
     std::string collName;
     std::shared_ptr<MessageBox> messageBox;

@@ -38,13 +38,14 @@ TEST_F(DemoHostTest, SitesStartInTableOrderAndStopInReverse) {
     trovane::testing::TraceCapture trace;
     Open();
     const auto& panels = host->Panels().Panels();
-    ASSERT_EQ(panels.size(), 6u);
+    ASSERT_EQ(panels.size(), 7u);
     EXPECT_EQ(panels[0].site.name, "Alarms1");
     EXPECT_EQ(panels[1].site.name, "Blocking1");
     EXPECT_EQ(panels[2].site.name, "IndicationBar1");
     EXPECT_EQ(panels[3].site.name, "OperatorPlace1");  // the breaker's location and counter
     EXPECT_EQ(panels[4].site.name, "MiscFunctions1");
     EXPECT_EQ(panels[5].site.name, "Substitute1");
+    EXPECT_EQ(panels[6].site.name, "Tagout1");
     EXPECT_LT(std::find(trace.Lines().begin(), trace.Lines().end(), "-> Alarms.Init"),
               std::find(trace.Lines().begin(), trace.Lines().end(), "-> Blocking.Init"));
     EXPECT_EQ(GetProperty(Container(), "Alarms1").AsObject(), panels[0].panel);

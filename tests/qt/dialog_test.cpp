@@ -186,12 +186,12 @@ TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
 // window's in twips, and the screenshot is a picture of the whole dialog.
 TEST_F(DialogTest, PanelsStandOnTheirPagesAndTheDialogFitsASmallScreen) {
     Open();
-    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "operation", "substitution"}));
+    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "operation", "substitution", "tagout"}));
     EXPECT_TRUE(window->ShowPage("alarms"));
-    EXPECT_FALSE(window->ShowPage("tagout")) << "a page without panels is not shown";
+    EXPECT_FALSE(window->ShowPage("communication")) << "a page without panels is not shown";
     auto* pages = window->findChild<QTabWidget*>("tabPages");
     ASSERT_NE(pages, nullptr);
-    EXPECT_EQ(pages->count(), 3);
+    EXPECT_EQ(pages->count(), 4);
     EXPECT_EQ(pages->tabText(0), "Alarm list");
     EXPECT_TRUE(pages->widget(0)->isAncestorOf(AlarmList()));
     EXPECT_TRUE(pages->widget(0)->isAncestorOf(BlockingBox("Check1")));
