@@ -1,8 +1,10 @@
-// Feeds arbitrary server answers to the tagout panel's service calls. The input is Vexl text, one
-// expression a line; the values are what the container's RunVexlCmd answers, in turn, command after
-// command. Whatever they are, no call may raise: wrong-typed answers take their fall-backs and error
-// texts. The model the writes walk is the panel's own and well formed, so its index error cannot
-// occur either; any exception fails the run.
+// Feeds arbitrary server answers to the tagout panel: its set-up, the table, the edit dialog built
+// from whatever the class answers and its OK, removal, and the service calls one by one. The input
+// is Vexl text, one expression a line; the values are what the container's RunVexlCmd answers, in
+// turn, command after command. Whatever they are, no call may raise: wrong-typed answers take their
+// fall-backs and error texts, missing class properties their stand-ins. The model the writes walk
+// is the panel's own and well formed, so its index error cannot occur either; any exception fails
+// the run.
 
 #include <cstddef>
 #include <cstdint>
@@ -14,12 +16,13 @@
 #include "sim/vexl_interpreter.h"
 #include "support/fake_vexl_environment.h"
 #include "tagout/tagout.h"
+#include "tagout/tagout_edit_dialog.h"
 
 namespace {
 
 using trovane::Variant;
 
-constexpr size_t kMostAnswers = 8;
+constexpr size_t kMostAnswers = 24;
 
 std::vector<Variant> Answers(const std::string& text) {
     trovane::sim::testing::FakeVexlEnvironment environment;
@@ -42,6 +45,15 @@ std::shared_ptr<trovane::DispatchObject> ContainerAnswering(std::vector<Variant>
     });
     container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
     container->Method("ShowError", [](std::span<Variant>) { return Variant(); });
+    for (const char* ignored : {"DebugInfo", "SetCharsetValues", "SetWindowOrder"})
+        container->Method(ignored, [](std::span<Variant>) { return Variant(); });
+    for (const char* right : {"IsSelectedOnOtherMonitor", "IsUserAuthorized"})
+        container->Method(right, [right](std::span<Variant>) {
+            return Variant(std::string(right) != "IsSelectedOnOtherMonitor");
+        });
+    container->Property("sUserName", [] { return Variant("operator"); });
+    for (const char* edge : {"Left", "Top", "Width", "Height"})
+        container->Property(edge, [] { return Variant(int32_t{6000}); });
     return container;
 }
 
@@ -60,6 +72,23 @@ void FillModel(trovane::Tagout& panel) {
         model.SetAttrValue(1, name, "X\"'");
         panel.AddChangedAttrName(name);
     }
+}
+
+// The operator's way through the panel: the table, adding and editing through the dialog, removal.
+void Operate(trovane::Tagout& panel) {
+    panel.Init();
+    panel.RefreshTagouts();
+    if (panel.ListView1.ItemCount() > 0) panel.ListView1.ClickItem(panel.ListView1.ItemCount());
+    for (const char* mode : {"ADD", "EDIT"}) {
+        panel.ShowTagoutEditDialog(mode);
+        if (trovane::TagoutEditDialog* dialog = panel.EditDialog()) {
+            if (dialog->TabStrip1.TabCount() > 1) dialog->TabStrip1.ClickTab(2);
+            dialog->btnOK->Click();
+        }
+    }
+    panel.RemoveTagout();
+    panel.ShowTagoutEditDialog("EDIT");
+    panel.UnLoadTagoutEditDialog();
 }
 
 void Drive(trovane::Tagout& panel) {
@@ -92,6 +121,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     panel->SetParent(Variant(trovane::ObjectRef(container)));
     panel->logicalName = "ABC";
     panel->baseIndex = 10;
-    Drive(*panel);
+    Operate(*panel);
+    auto calls = std::make_shared<trovane::Tagout>();
+    calls->SetParent(Variant(trovane::ObjectRef(container)));
+    calls->logicalName = "ABC";
+    calls->baseIndex = 10;
+    Drive(*calls);
     return 0;
 }
