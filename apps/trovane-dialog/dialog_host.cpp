@@ -31,10 +31,21 @@ DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platform
     auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
     application = server->Database().App().number;
     connection = std::make_shared<sim::SimulatedConnection>(server);
+    if (options.serverUrl) {
+        net::NetworkConnectionOptions networkOptions;
+        (void)net::ParseBrokerUrl(*options.serverUrl, networkOptions.broker);
+        networkOptions.application = application;
+        networkOptions.user = options.userName;
+        const auto patience = networkOptions.broker.connectTimeout;
+        network = std::make_shared<net::NetworkConnection>(std::move(networkOptions));
+        if (!network->WaitUntilReady(patience))
+            throw net::NetworkError("no trovane-server answers for application " +
+                                    std::to_string(application) + " on " + *options.serverUrl);
+    }
     functions = std::make_shared<CommonFunctions>(platform);
     container = std::make_shared<StandardContainer>(
         "frmControlDialog", functions,
-        ContainerSettings{Variant(ObjectRef(connection)), application, options.userName, options.rights});
+        ContainerSettings{ServerConnection(), application, options.userName, options.rights});
     actions = std::make_shared<DemoHostActions>(panels, *container,
                                                 ObjectIdentity{options.objectName, options.index});
     AnswerHostActions(*container, actions);
@@ -50,7 +61,7 @@ void DialogHost::Start(int32_t frameHandle) {
     functions->SetStartInfo(StartInformation(frameHandle));
     const ObjectIdentity object{options.objectName, options.index};
     panels.Start(ControlDialogSites(FeaturesOf(Server().Database(), object)),
-                 SiteContext{*container, platform, Variant(ObjectRef(connection)), application, object});
+                 SiteContext{*container, platform, ServerConnection(), application, object});
 }
 
 void DialogHost::Stop() {
@@ -61,8 +72,14 @@ void DialogHost::Stop() {
 
 // The server's time passes between pumps: dialling lines connect when their time has come.
 int32_t DialogHost::Pump() {
+    if (network) return network->Pump();
     sim::AdvanceDialUpLines(Server().Database());
     return connection->Pump();
+}
+
+Variant DialogHost::ServerConnection() const {
+    if (network) return Variant(ObjectRef(network));
+    return Variant(ObjectRef(connection));
 }
 
 Variant DialogHost::StartInformation(int32_t frameHandle) {
@@ -70,7 +87,7 @@ Variant DialogHost::StartInformation(int32_t frameHandle) {
     functions->AddListAttribute(info, "APP_NR", Variant(application));
     functions->AddListAttribute(info, "LANGUAGE", Variant(options.language));
     functions->AddListAttribute(info, "USER_NAME", Variant(options.userName));
-    functions->AddListAttribute(info, "USED_OPC_SERVER", Variant(ObjectRef(connection)));
+    functions->AddListAttribute(info, "USED_OPC_SERVER", ServerConnection());
     functions->AddListAttribute(info, "SET_OWNER", Variant(true));
     functions->AddListAttribute(info, "FRAME_HANDLE", Variant(frameHandle));
     return info;

@@ -17,6 +17,7 @@
 #include "common/standard_container.h"
 #include "demo_host_actions.h"
 #include "dialog_options.h"
+#include "net/network_connection.h"
 #include "panel_sites.h"
 #include "sim/simulated_connection.h"
 
@@ -40,6 +41,8 @@ class DialogHost {
     StandardContainer& Container() { return *container; }
     DemoHostActions& Actions() { return *actions; }
     sim::SimulatedConnection& Connection() { return *connection; }
+    // The connection to trovane-server with --server, else null.
+    net::NetworkConnection* Network() { return network.get(); }
     sim::SimulatedServer& Server() { return connection->Server(); }
     const SitedPanels& Panels() const { return panels; }
     int16_t Application() const { return application; }
@@ -47,10 +50,14 @@ class DialogHost {
 
   private:
     Variant StartInformation(int32_t frameHandle);
+    // What the panels work through: the network connection with --server, else the in-process one.
+    Variant ServerConnection() const;
 
     DialogOptions options;
     PlatformServices platform;
     std::shared_ptr<sim::SimulatedConnection> connection;
+    // With --server the local scenario only shapes the dialog (its pages, the caption).
+    std::shared_ptr<net::NetworkConnection> network;
     std::shared_ptr<CommonFunctions> functions;
     std::shared_ptr<StandardContainer> container;
     std::shared_ptr<DemoHostActions> actions;

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "net/mqtt_client.h"
 #include "panel_sites.h"
 
 namespace trovane::dialog {
@@ -40,6 +41,10 @@ std::string ApplyValue(DialogOptions& options, std::string_view name, const std:
     } else if (name == "--screenshot-dialog") {
         if (value.empty()) return "--screenshot-dialog needs a button name";
         options.screenshotDialogButton = value;
+    } else if (name == "--server") {
+        net::BrokerOptions broker;
+        if (auto error = net::ParseBrokerUrl(value, broker); !error.empty()) return "--server: " + error;
+        options.serverUrl = value;
     } else if (name == "--page") {
         if (!FindDialogPage(value)) return "--page takes one of: " + DialogPageNames();
         options.page = value;
@@ -77,7 +82,9 @@ std::string DialogUsage() {
     return "Usage: trovane-dialog [--object NAME] [--index N] [--scenario FILE] [--user NAME]\n"
            "                      [--language CODE] [--rights all|none|LIST] [--trace]\n"
            "                      [--screenshot FILE.png] [--page NAME] [--screenshot-dialog BUTTON]\n"
-           "The control dialog of one process object (default ABC 10) on the simulated server.\n"
+           "                      [--server mqtt://HOST:PORT]\n"
+           "The control dialog of one process object (default ABC 10) on the simulated server, in-process\n"
+           "or, with --server, trovane-server through that broker.\n"
            "Rights LIST: comma-separated, of " +
            std::string(kRightNames) + ".\n";
 }

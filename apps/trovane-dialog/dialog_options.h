@@ -9,6 +9,7 @@
 //   --trace                   the library's trace to standard error
 //   --screenshot FILE.png     render the dialog off-screen, write the picture and exit
 //   --page NAME               the page shown first (alarms, ...), for example in a screenshot
+//   --server URL              work on trovane-server through the broker (mqtt://HOST:PORT)
 //   --screenshot-dialog NAME  with --screenshot: press the shown page's button NAME and picture
 //                             the dialog it opens instead of the control dialog
 //   --help
@@ -32,6 +33,8 @@ struct DialogOptions {
     bool trace = false;
     std::optional<std::string> screenshotFile;
     std::optional<std::string> page;
+    // The broker of a networked server; without it the server runs in-process.
+    std::optional<std::string> serverUrl;
     std::optional<std::string> screenshotDialogButton;
     bool help = false;
     // Not from the command line: where the in-process server is installed (its icon directories);

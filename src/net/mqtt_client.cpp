@@ -4,8 +4,10 @@
 #include <mqtt_protocol.h>
 
 #include <atomic>
+#include <cerrno>
 #include <charconv>
 #include <cstdlib>
+#include <cstring>
 #include <random>
 
 namespace trovane::net {
@@ -128,8 +130,9 @@ void MqttClient::Connect() {
     }
     int rc = mosquitto_connect_bind_v5(handle_, options_.host.c_str(), options_.port, kKeepAliveSeconds,
                                        nullptr, nullptr);
-    // A broker that is not there yet is retried by the network thread like a lost connection.
-    if (rc != MOSQ_ERR_SUCCESS && rc != MOSQ_ERR_ERRNO && rc != MOSQ_ERR_CONN_REFUSED)
+    if (rc == MOSQ_ERR_ERRNO)
+        throw NetworkError("cannot reach the broker at " + Describe() + ": " + std::strerror(errno));
+    if (rc != MOSQ_ERR_SUCCESS)
         throw NetworkError("cannot connect to the broker at " + Describe() + ": " + mosquitto_strerror(rc));
     rc = mosquitto_loop_start(handle_);
     if (rc != MOSQ_ERR_SUCCESS)
@@ -139,14 +142,15 @@ void MqttClient::Connect() {
     const bool answered = changed_.wait_for(lock, options_.connectTimeout,
                                             [this] { return connected_ || refusal_.has_value(); });
     if (connected_) return;
-    const std::string reason = refusal_
-                                   ? ReasonText(*refusal_)
-                                   : "no answer within " + std::to_string(options_.connectTimeout.count()) +
-                                         " ms" + (lastError_.empty() ? "" : " (" + lastError_ + ")");
+    const std::string reason =
+        refusal_ ? "the broker at " + Describe() + " refused the connection: " + ReasonText(*refusal_)
+                 : "no answer from the broker at " + Describe() + " within " +
+                       std::to_string(options_.connectTimeout.count()) + " ms" +
+                       (lastError_.empty() ? "" : " (" + lastError_ + ")");
     (void)answered;
     lock.unlock();
     Disconnect();
-    throw NetworkError("the broker at " + Describe() + " refused the connection: " + reason);
+    throw NetworkError(reason);
 }
 
 void MqttClient::Disconnect() {

@@ -169,7 +169,8 @@ TEST(NetworkConnectionStart, AMissingBrokerIsAClearErrorNotAHang) {
         NetworkConnection connection(options);
         ADD_FAILURE() << "connected to nothing";
     } catch (const NetworkError& error) {
-        EXPECT_NE(std::string(error.what()).find("the broker at mqtt://127.0.0.1:"), std::string::npos)
+        EXPECT_NE(std::string(error.what()).find("cannot reach the broker at mqtt://127.0.0.1:"),
+                  std::string::npos)
             << error.what();
     }
 }
