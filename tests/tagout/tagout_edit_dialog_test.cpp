@@ -97,6 +97,7 @@ TEST_F(TagoutEditDialogTest, EditModeBuildsTwoTabsWithOneControlPerShownAttribut
 
 TEST_F(TagoutEditDialogTest, EditWritesOnlyTheChangedAttributeAndTheServersDateAndTime) {
     TagoutEditDialog& dialog = Open("btnEdit");
+    const auto kept = dialog.shared_from_this();  // the panel lets go of it on OK
     static_cast<TextBox*>(ByField(dialog, "TAG_TEXT"))->SetText("Feeder \"2\"");
     static_cast<TextBox*>(ByField(dialog, "DATE"))->SetText("1999-01-01");  // stamped all the same
     const size_t from = Commands().size();
