@@ -12,31 +12,20 @@
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
 #include "indication/indication_bar.h"
-#include "sim/vexl_interpreter.h"
+#include "support/answering_container.h"
 #include "support/fake_connection.h"
-#include "support/fake_vexl_environment.h"
 
 namespace {
 
 using trovane::Variant;
 
 std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answer) {
-    auto container = std::make_shared<trovane::DispatchObject>("frmFuzz");
-    const auto constant = [answer](std::span<Variant>) { return answer; };
-    const auto nothing = [](std::span<Variant>) { return Variant(); };
-    container->Method("GetAlarms", constant).Method("RunVexlCmd", constant);
     // Every write is refused, so the bar also asks for the status's name and shows it.
-    container->Method("RunVexlCmdWithStatus", [answer](std::span<Variant> args) {
-        if (args.size() > 1) args[1] = Variant(int32_t{2003});
-        return answer;
-    });
-    container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
-    container->Method("IsAlarmHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
-    container->Method("IsBlockingHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
-    container->Method("IsUserAuthorized", [](std::span<Variant>) { return Variant(true); });
-    for (const char* member : {"SetCharsetValues", "SetBlockedSignal", "SetSingleBlocking",
-                               "RefreshSubscriptions", "ShowError", "SetWindowOrder"})
-        container->Method(member, nothing);
+    auto container = trovane::testing::AnsweringContainer(
+        answer, 2003, {"IsAlarmHandlingAllowed", "IsBlockingHandlingAllowed", "IsUserAuthorized"},
+        {"SetCharsetValues", "SetBlockedSignal", "SetSingleBlocking", "RefreshSubscriptions", "ShowError",
+         "SetWindowOrder"});
+    container->Method("GetAlarms", [answer](std::span<Variant>) { return answer; });
     return container;
 }
 
@@ -97,11 +86,7 @@ void DriveIndication(const Variant& container, const Variant& answer) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    trovane::sim::testing::FakeVexlEnvironment environment;
-    trovane::sim::VexlInterpreter interpreter(environment);
-    int32_t status = 0;
-    const Variant answer =
-        interpreter.Execute(std::string(reinterpret_cast<const char*>(data), size), status);
+    const Variant answer = trovane::testing::AnswerOfVexl(data, size);
     const auto container = ContainerAnswering(answer);
     DriveAlarms(Variant(trovane::ObjectRef(container)), answer);
     DriveBlocking(Variant(trovane::ObjectRef(container)));

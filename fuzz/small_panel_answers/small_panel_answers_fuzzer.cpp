@@ -14,31 +14,20 @@
 #include "dialup/update_data.h"
 #include "opcounter/misc_functions.h"
 #include "operatorplace/operator_place.h"
-#include "sim/vexl_interpreter.h"
+#include "support/answering_container.h"
 #include "support/fake_connection.h"
-#include "support/fake_vexl_environment.h"
 
 namespace {
 
 using trovane::Variant;
 
 std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answer) {
-    auto container = std::make_shared<trovane::DispatchObject>("frmFuzz");
-    const auto constant = [answer](std::span<Variant>) { return answer; };
-    const auto nothing = [](std::span<Variant>) { return Variant(); };
-    container->Method("RunVexlCmd", constant);
     // Every limit is refused, so the counter also shows its message and refreshes.
-    container->Method("RunVexlCmdWithStatus", [answer](std::span<Variant> args) {
-        if (args.size() > 1) args[1] = Variant(int32_t{2006});
-        return answer;
-    });
-    container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
-    container->Method("IsUserAuthorized", [](std::span<Variant>) { return Variant(true); });
-    container->Method("IsUserEngineer", constant);
-    for (const char* member :
-         {"SetCharsetValues", "ShowError", "updatestatustext", "Station_Select", "NCC_Select", "Execute",
-          "MakeCall", "HangUp", "MakeSync", "makeUpdate", "ShowDialUpOptionsDialog", "UpdateData"})
-        container->Method(member, nothing);
+    auto container = trovane::testing::AnsweringContainer(
+        answer, 2006, {"IsUserAuthorized"},
+        {"SetCharsetValues", "ShowError", "updatestatustext", "Station_Select", "NCC_Select", "Execute",
+         "MakeCall", "HangUp", "MakeSync", "makeUpdate", "ShowDialUpOptionsDialog", "UpdateData"});
+    container->Method("IsUserEngineer", [answer](std::span<Variant>) { return answer; });
     return container;
 }
 
@@ -111,11 +100,7 @@ void DriveButtons(const Variant& container, const Variant& answer) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    trovane::sim::testing::FakeVexlEnvironment environment;
-    trovane::sim::VexlInterpreter interpreter(environment);
-    int32_t status = 0;
-    const Variant answer =
-        interpreter.Execute(std::string(reinterpret_cast<const char*>(data), size), status);
+    const Variant answer = trovane::testing::AnswerOfVexl(data, size);
     const auto container = ContainerAnswering(answer);
     const Variant host{trovane::ObjectRef(container)};
     DriveCounter(host, answer);

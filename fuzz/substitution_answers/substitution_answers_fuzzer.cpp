@@ -9,9 +9,8 @@
 #include <string>
 
 #include "platform/controls/key_codes.h"
-#include "sim/vexl_interpreter.h"
 #include "substitution/substitute.h"
-#include "support/fake_vexl_environment.h"
+#include "support/answering_container.h"
 
 namespace {
 
@@ -20,12 +19,9 @@ using trovane::Variant;
 constexpr int32_t kMostRows = 20;
 
 std::shared_ptr<trovane::DispatchObject> ContainerAnswering(const Variant& answer) {
-    auto container = std::make_shared<trovane::DispatchObject>("frmFuzz");
-    container->Method("RunVexlCmd", [answer](std::span<Variant>) { return answer; });
-    container->Method("GetNlsString", [](std::span<Variant>) { return Variant("text"); });
+    auto container = trovane::testing::AnsweringContainer(answer, 2003, {"IsSubstitutionHandlingAllowed"},
+                                                          {"SetCharsetValues"});
     container->Method("getLang", [](std::span<Variant>) { return Variant("en"); });
-    container->Method("IsSubstitutionHandlingAllowed", [](std::span<Variant>) { return Variant(true); });
-    container->Method("SetCharsetValues", [](std::span<Variant>) { return Variant(); });
     return container;
 }
 
@@ -44,11 +40,7 @@ void EnterEverything(trovane::Substitute& panel) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    trovane::sim::testing::FakeVexlEnvironment environment;
-    trovane::sim::VexlInterpreter interpreter(environment);
-    int32_t status = 0;
-    const Variant answer =
-        interpreter.Execute(std::string(reinterpret_cast<const char*>(data), size), status);
+    const Variant answer = trovane::testing::AnswerOfVexl(data, size);
     const auto container = ContainerAnswering(answer);  // the panel holds its container weakly
     auto panel = std::make_shared<trovane::Substitute>();
     panel->SetParent(Variant(trovane::ObjectRef(container)));
