@@ -1,6 +1,7 @@
 #pragma once
 // The tagout panel sited on a fake container, its server a FakeTagoutServer: a demo-like class of
-// two tabs with every attribute type, and the recorded commands, messages and presentations.
+// two tabs with every attribute type, one tagout, and the recorded commands, messages and
+// presentations. The panel's clock is the test's.
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 #include "platform/headless_presenter.h"
 #include "support/fake_container.h"
 #include "support/fake_message_box.h"
+#include "support/manual_clock.h"
 #include "support/recording_host_actions.h"
 #include "tagout/fake_tagout_server.h"
 #include "tagout/tagout.h"
@@ -59,10 +61,10 @@ class TagoutPanelFixture : public ::testing::Test {
         panel->RefreshTagouts();
     }
 
-    static PlatformServices Platform(std::shared_ptr<FakeMessageBox> box,
-                                     std::shared_ptr<HeadlessPresenter> p) {
-        PlatformServices platform = PlatformWith(std::move(box));
-        platform.presenter = std::move(p);
+    PlatformServices Platform() const {
+        PlatformServices platform = PlatformWith(messages);
+        platform.presenter = presenter;
+        platform.clock = clock;
         return platform;
     }
 
@@ -79,9 +81,10 @@ class TagoutPanelFixture : public ::testing::Test {
     FakeTagoutServer server;
     std::shared_ptr<FakeMessageBox> messages = std::make_shared<FakeMessageBox>();
     std::shared_ptr<HeadlessPresenter> presenter = std::make_shared<HeadlessPresenter>();
+    std::shared_ptr<ManualClock> clock = std::make_shared<ManualClock>();
     std::shared_ptr<RecordingHostActions> actions = std::make_shared<RecordingHostActions>();
     std::shared_ptr<FakeContainer> container = std::make_shared<FakeContainer>();
-    std::shared_ptr<Tagout> panel = std::make_shared<Tagout>(Platform(messages, presenter));
+    std::shared_ptr<Tagout> panel = std::make_shared<Tagout>(Platform());
 };
 
 }  // namespace trovane::testing

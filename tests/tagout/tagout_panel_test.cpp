@@ -60,7 +60,7 @@ TEST_F(TagoutPanel, ClassWithoutNamesHidesTheTableButAllowsAddingAndAMissingClas
     EXPECT_EQ(panel->ListView1.ItemCount(), 0);
 
     TraceCapture trace;
-    auto other = std::make_shared<Tagout>(Platform(messages, presenter));
+    auto other = std::make_shared<Tagout>(Platform());
     other->SetParent(container->AsVariant());
     server.classExists = false;
     other->Init();
@@ -104,16 +104,16 @@ TEST_F(TagoutPanel, OnlyTheOwnerMayEditOrRemoveAndNothingOnAnotherMonitor) {
         {"OPERATOR1", false, false, false, false, true},
     };
     for (const Case& c : cases) {
-        auto fresh = std::make_shared<Tagout>(Platform(messages, presenter));
+        SCOPED_TRACE(std::string(c.user) + (c.otherMonitor ? " other monitor" : "") +
+                     (c.authorized ? "" : " unauthorised"));
+        auto fresh = std::make_shared<Tagout>(Platform());
         fresh->SetParent(container->AsVariant());
-        container->Value("sUserName", Variant(c.user));
         actions->onOtherMonitor = c.otherMonitor;
         container->SetRight("IsUserAuthorized", c.authorized);
+        container->Value("sUserName", Variant(c.user));
         fresh->Init();
         fresh->RefreshTagouts();
         fresh->ListView1.ClickItem(1);
-        SCOPED_TRACE(std::string(c.user) + (c.otherMonitor ? " other monitor" : "") +
-                     (c.authorized ? "" : " unauthorised"));
         EXPECT_EQ(fresh->btnAdd.Enabled(), c.add);
         EXPECT_EQ(fresh->btnEdit.Enabled(), c.edit);
         EXPECT_EQ(fresh->btnRemove.Enabled(), c.edit);
@@ -122,17 +122,32 @@ TEST_F(TagoutPanel, OnlyTheOwnerMayEditOrRemoveAndNothingOnAnotherMonitor) {
     }
 }
 
-TEST_F(TagoutPanel, RemovingOneOfTwoMakesTheLastRemainingTagoutTheTagAndRemovingTheOnlyOneResetsIt) {
+// The removal asks first; only its OK removes. Removing one of two hands the tag to the one left,
+// removing the only one resets it.
+TEST_F(TagoutPanel, RemovalAsksThenSendsExactlyTheEventsForTheTagoutsThatRemain) {
     server.tagouts.push_back(
         {"K2",
          {{"OWNER", "operator1"}, {"PRIORITY", "Low"}, {"TAG_TEXT", "Second"}, {"TAG_REPR", "Caution"}}});
     Start();
     panel->ListView1.ClickItem(1);
     size_t from = Commands().size();
-    panel->RemoveTagout();
-    const std::vector<std::string> all = Commands();
-    const std::vector<std::string> sent(all.begin() + static_cast<std::ptrdiff_t>(from), all.end());
-    EXPECT_EQ(sent,
+    panel->btnRemove.Click();
+    TagoutRemovalDialog* dialog = panel->RemovalDialog();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(
+        (std::vector<std::string>{dialog->Name(), dialog->Caption(), dialog->lblText.Caption(),
+                                  dialog->btnOK.Caption(), dialog->btnCancel.Caption()}),
+        (std::vector<std::string>{"frmTagoutRemoval", "Remove Tagout",
+                                  "Are you sure you want to remove the selected Tagout?", "OK", "Cancel"}));
+    EXPECT_TRUE(presenter->IsPresented(*dialog));
+    EXPECT_EQ(container->CallsOf("SetWindowOrder").back().args.at(0), Variant(dialog->Hwnd()));
+    dialog->btnCancel.Click();
+    EXPECT_EQ(Commands().size(), from);
+    EXPECT_EQ(panel->RemovalDialog(), nullptr);
+
+    panel->btnRemove.Click();
+    panel->RemovalDialog()->btnOK.Click();
+    EXPECT_EQ(CommandsWith("TAGOUT", from),
               (std::vector<std::string>{
                   "#return do(OVGR_TAGOUT_AM:C, \"LOCAL_BLOCK\", (\"ABC\",10),\"-\",\"01\",\"K1\")",
                   "#return do(OVGR_TAGOUT:C, \"REMOVE_TAGOUT\", (\"ABC\",10),\"K1\")",
@@ -141,8 +156,9 @@ TEST_F(TagoutPanel, RemovingOneOfTwoMakesTheLastRemainingTagoutTheTagAndRemoving
                   "#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Caution\")",
                   "#return do(OVGR_TAGOUT:C, \"EVENT_FUNCTIONS\", \"SET_TAGTEXT\" ,(\"ABC\",10),\"Second\")",
               }));
+    EXPECT_EQ(panel->RemovalDialog(), nullptr);
+    EXPECT_EQ(RowTexts(panel->ListView1, 1).front(), "1");
     EXPECT_EQ(panel->ListView1.ItemCount(), 1);
-    EXPECT_EQ(panel->ListView1.Item(1).Text(), "1");
     EXPECT_EQ(panel->clsActiveTagouts->SelectedTagoutName(), "K2");
     EXPECT_TRUE(panel->btnRemove.Enabled());
 
@@ -158,35 +174,6 @@ TEST_F(TagoutPanel, RemovingOneOfTwoMakesTheLastRemainingTagoutTheTagAndRemoving
     EXPECT_EQ(panel->clsActiveTagouts->SelectedTagoutName(), "");
     EXPECT_FALSE(panel->btnEdit.Enabled());
     EXPECT_EQ(panel->colChangedAttrNames->Count(), 0);
-}
-
-TEST_F(TagoutPanel, RemovalDialogAsksWithItsFourTextsAndOnlyOkRemoves) {
-    Start();
-    panel->ListView1.ClickItem(1);
-    panel->btnRemove.Click();
-    TagoutRemovalDialog* dialog = panel->RemovalDialog();
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(dialog->Name(), "frmTagoutRemoval");
-    EXPECT_EQ(dialog->Caption(), "Remove Tagout");
-    EXPECT_EQ(dialog->lblText.Caption(), "Are you sure you want to remove the selected Tagout?");
-    EXPECT_EQ(dialog->btnOK.Caption(), "OK");
-    EXPECT_EQ(dialog->btnCancel.Caption(), "Cancel");
-    EXPECT_TRUE(presenter->IsPresented(*dialog));
-    EXPECT_EQ(container->CallsOf("SetWindowOrder").back().args.at(0), Variant(dialog->Hwnd()));
-
-    const size_t before = Commands().size();
-    dialog->btnCancel.Click();
-    EXPECT_EQ(Commands().size(), before);
-    EXPECT_EQ(panel->ListView1.ItemCount(), 1);
-    EXPECT_EQ(panel->RemovalDialog(), nullptr);
-
-    panel->btnRemove.Click();
-    panel->RemovalDialog()->btnOK.Click();
-    EXPECT_EQ(
-        CommandsWith("REMOVE_TAGOUT", before),
-        (std::vector<std::string>{"#return do(OVGR_TAGOUT:C, \"REMOVE_TAGOUT\", (\"ABC\",10),\"K1\")"}));
-    EXPECT_EQ(panel->ListView1.ItemCount(), 0);
-    EXPECT_EQ(panel->RemovalDialog(), nullptr);
 }
 
 TEST_F(TagoutPanel, EditDialogOpensTracedThroughTheContainerCentredOverTheHost) {

@@ -6,16 +6,31 @@
 #include <regex>
 
 #include "support/error_number.h"
-#include "tagout_fixture.h"
+#include "tagout/tagout_panel_fixture.h"
 
 namespace trovane::testing {
 namespace {
+
+// The panel's calls one by one on a model the test fills: "#" and then the given attributes.
+class TagoutPanelTest : public TagoutPanelFixture {
+  protected:
+    void DefineAttributes(const std::vector<std::pair<std::string, bool>>& attributes) {
+        clsTagout& model = *panel->clsActiveTagouts;
+        model.AddAttrName("#", 0);
+        model.AddAttrVisible("TRUE", 0);
+        for (const auto& [name, visible] : attributes) {
+            model.AddAttrName(name, 0);
+            model.AddAttrVisible(visible ? "TRUE" : "FALSE", 0);
+        }
+    }
+    std::map<std::string, Variant>& answers = server.overrides;
+};
 
 const std::string kText512 = "Tagout Function not initialized. Tagout Class data base does not exist!";
 const std::string kText513 = "This error code is unknown. Consult the Ovo-D supportline!";
 
 TEST_F(TagoutPanelTest, FailedChecksShow512ForCode5007TheServersMessageForOtherCodesAnd513Otherwise) {
-    answers["GET_ERRORMSG"] = Variant("Too many tagouts");
+    answers["MISC_FUNCTIONS GET_ERRORMSG"] = Variant("Too many tagouts");
     EXPECT_FALSE(panel->CheckTagoutResult(Variant(int32_t{5007}), "String()", true));
     EXPECT_FALSE(panel->CheckTagoutResult(Variant(int16_t{5007}), "String()", true));
     EXPECT_TRUE(Commands().empty()) << "no message is asked for 5007 or a value that is no code";
@@ -39,8 +54,8 @@ TEST_F(TagoutPanelTest, ReadsFallBackToTheirDefaultsAndOnlyTheListedOnesShowAnEr
     answers["GET_CLASS_ACTIONMETHODS"] = MakeStringArray({"LOCAL_BLOCK"}, 1);
     answers["GET_CLASS_ATTRIBUTES"] = MakeLongArray({1, 0}, 1);
     answers["READ_TAGOUT_ATTRIBUTE_VALUE"] = Variant(int32_t{5004});
-    answers["GET_ERRORMSG"] = Variant("The tagout does not exist");
-    answers["GET_TIME"] = MakeStringArray({"09:30"});
+    answers["MISC_FUNCTIONS GET_ERRORMSG"] = Variant("The tagout does not exist");
+    answers["MISC_FUNCTIONS GET_TIME"] = MakeStringArray({"09:30"});
     EXPECT_EQ(panel->GetTagoutNames(), MakeStringArray({""}, 1));
     panel->QueryTagoutClass();
     EXPECT_FALSE(panel->classExists);
@@ -94,7 +109,6 @@ TEST_F(TagoutPanelTest, EditWritesOnlyChangedAttributesFromPositionTwoDoubledAnd
     clsTagout& model = *panel->clsActiveTagouts;
     model.AddAttrValueColl(MakeStringArray({"", "1", "operator1", "it's \"on\"", "mine", "9", "X", "-"}, 0));
     model.SetCollName(1, "ID7");
-    answers["GET_CLASS_ATTRIBUTE_PROPERTY"] = Variant("DEMO");
     for (const char* name : {"#", "AM_LOCAL01", "ORIGIN", "TAG_TEXT"}) panel->AddChangedAttrName(name);
 
     panel->EditTagoutInSDB(1);
@@ -115,6 +129,7 @@ TEST_F(TagoutPanelTest, RemovalTakesBackEveryActionMethodThenRemovesAndDeletesWh
     answers["LOCAL_BLOCK"] = Variant(int32_t{5010});
     answers["REMOVE_TAGOUT"] = Variant(int32_t{5004});
     answers["DELETE_TAGOUT"] = Variant(int32_t{5004});
+    panel->userName = "operator1";
     panel->clsActiveTagouts->AddEmptyAttrValueColl();
     panel->clsActiveTagouts->SetCollName(1, "ID7");
     panel->clsActiveTagouts->SetSelectedTagoutName(1);
