@@ -16,12 +16,6 @@
 namespace trovane::testing {
 namespace {
 
-TEST(PanelItemsTest, ItemPathsNameTheApplicationObjectAndAttribute) {
-    EXPECT_EQ(ItemPath(1, "ABC", "GC"), "\\\\APL\\1\\P\\ABC:GC");
-    EXPECT_EQ(IndexedItemPath(1, "ABC", 10, "CO"), "\\\\APL\\1\\P\\ABC\\10:CO");
-    EXPECT_EQ(ApplicationItemPath(1, "AT"), "\\\\APL\\1:AT");
-}
-
 // A panel with items on handles 1, 3 and 4 (2 left out, as the operation counter does for some
 // objects) that records what reached each item and each end of a batch. Item 4 fails on "bad";
 // whether that failure is isolated is the test's choice.

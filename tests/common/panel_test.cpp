@@ -1,9 +1,8 @@
-// The panel base, traced operations and shared command text. The standard container members are
+// The panel base and traced operations. The standard container members are
 // checked through the demo host (tests/qt/demo_host_test.cpp) and every panel test's container.
 
 #include <gtest/gtest.h>
 
-#include "common/command_text.h"
 #include "common/panel.h"
 #include "common/traced_operation.h"
 #include "core/conversions.h"
@@ -131,12 +130,6 @@ TEST(TracedOperationTest, ExitLinesAndWhatHappensToTheFailure) {
     TraceCapture trace;  // entry and exit may be spelt differently
     RunTraced("Dialup.Init", "DialUp.Init", OnFailure::Stop, [] { return true; });
     EXPECT_EQ(trace.Lines(), (std::vector<std::string>{"-> Dialup.Init", "<- DialUp.Init"}));
-}
-
-TEST(CommandTextTest, ObjectReferenceAndQuoteDoubling) {
-    EXPECT_EQ(ObjectReferenceText("ABC", -1), R"(("ABC",-1))");
-    EXPECT_EQ(WithQuotesDoubled(R"(say "hi" to O'Neil)"), R"(say ""hi"" to O''Neil)");
-    EXPECT_EQ(WithQuotesDoubled(""), "");
 }
 
 }  // namespace
