@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "net/network_server.h"
+#include "net/state_store.h"
 #include "server_options.h"
 #include "sim/scenario.h"
 
@@ -44,7 +45,15 @@ int main(int argc, char** argv) {
         auto database = std::make_unique<sim::ProcessDatabase>();
         sim::LoadScenario(ScenarioText(parsed.options.scenarioFile), *database);
         auto simulated = std::make_shared<sim::SimulatedServer>(std::move(database));
+        // Declared first, so the server that journals into it goes before it.
+        std::unique_ptr<net::StateStore> state;
         net::NetworkServer server(simulated, parsed.options.broker);
+        if (parsed.options.stateFile) {
+            state = std::make_unique<net::StateStore>(*parsed.options.stateFile);
+            const size_t restored = net::RestoreAndKeep(server, *state);
+            std::cout << "trovane-server: " << restored << " kept command(s) restored from "
+                      << *parsed.options.stateFile << std::endl;
+        }
         server.Start();
         std::cout << "trovane-server: application " << server.Application() << " on "
                   << parsed.options.broker.host << ":" << parsed.options.broker.port << std::endl;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iostream>
 
+#include "net/state_digest.h"
 #include "net/topics.h"
 #include "net/variant_wire.h"
 #include "sim/item_path.h"
@@ -25,6 +26,7 @@ NetworkServer::NetworkServer(std::shared_ptr<sim::SimulatedServer> server, Broke
         MqttClient::Handlers{
             [this] { OnConnect(); }, {}, [this](const MqttMessage& message) { OnMessage(message); }});
     client_->SetWill(ServerStatusTopic(application_), kServerOffline);
+    server_->Database().SetClock(&clock_);
     listenerId_ = server_->Database().AddChangeListener([this](const sim::ItemKey& key) {
         if (std::find(changes_.begin(), changes_.end(), key) == changes_.end()) changes_.push_back(key);
     });
@@ -34,6 +36,7 @@ NetworkServer::~NetworkServer() {
     Stop();
     client_.reset();
     server_->Database().RemoveChangeListener(listenerId_);
+    server_->Database().SetClock(nullptr);
 }
 
 void NetworkServer::Start() {
@@ -104,15 +107,40 @@ Response NetworkServer::Handle(const Request& request) {
     return {};
 }
 
-Response NetworkServer::Execute(const Request& request) {
+bool NetworkServer::Run(const std::string& command, Date time, Response& response,
+                        std::vector<sim::ItemKey>& changes) {
+    const uint64_t before = StateDigest(server_->Database());
     changes_.clear();
-    Response response;
-    response.result = server_->Execute(request.command, response.status);
-    std::vector<sim::ItemKey> changes;
+    clock_.Pin(time);
+    struct Unpin {
+        CommandClock& clock;
+        ~Unpin() { clock.Unpin(); }
+    } unpin{clock_};
+    response.result = server_->Execute(command, response.status);
     changes.swap(changes_);
-    if (!changes.empty() && journal_) {
+    return !changes.empty() || StateDigest(server_->Database()) != before;
+}
+
+void NetworkServer::Replay(const CommandRecord& record) {
+    Response response;
+    std::vector<sim::ItemKey> changes;
+    Run(record.command, record.time, response, changes);
+    std::lock_guard lock(usersMutex_);
+    for (const sim::ItemKey& key : changes) {
+        Published& item = published_[ItemTopic(application_, key)];
+        item.key = key;
+        if (!record.user.empty()) item.user = record.user;
+    }
+}
+
+Response NetworkServer::Execute(const Request& request) {
+    Response response;
+    std::vector<sim::ItemKey> changes;
+    const Date time = clock_.Now();
+    const bool changed = Run(request.command, time, response, changes);
+    if (changed && journal_) {
         try {
-            journal_({request.user, request.command, server_->Now(), changes});
+            journal_({request.user, request.command, time, changes});
         } catch (const std::exception& error) {
             // The change is in memory but not kept: the operator must not take it as done.
             log_(std::string("could not keep the state: ") + error.what());

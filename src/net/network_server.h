@@ -11,6 +11,9 @@
 //
 // All server work happens on the client's network thread, one message at a time, so the simulated
 // server needs no locking. A message that cannot be decoded is dropped and logged.
+//
+// The server sets its own clock on the database (command_clock.h): a command sees the time it
+// started, so a journalled command run again at its recorded time does the same.
 
 #include <functional>
 #include <map>
@@ -19,13 +22,15 @@
 #include <string>
 #include <vector>
 
+#include "net/command_clock.h"
 #include "net/mqtt_client.h"
 #include "net/wire_messages.h"
 #include "sim/simulated_server.h"
 
 namespace trovane::net {
 
-// What one command changed, for whoever keeps the server's state (before the answer is sent).
+// A command that changed the database, for whoever keeps the server's state (before the answer is
+// sent): its user, text, the time it ran at and the items it changed that subscribers see.
 struct CommandRecord {
     std::string user;
     std::string command;
@@ -36,7 +41,8 @@ struct CommandRecord {
 class NetworkServer {
   public:
     using Log = std::function<void(const std::string&)>;
-    // Called with each changing command before its answer; a throw answers the command as failed.
+    // Called with each command that changed anything, before its answer; a throw answers the command
+    // as failed.
     using Journal = std::function<void(const CommandRecord&)>;
 
     NetworkServer(std::shared_ptr<sim::SimulatedServer> server, BrokerOptions broker, Log log = {});
@@ -45,6 +51,11 @@ class NetworkServer {
     NetworkServer& operator=(const NetworkServer&) = delete;
 
     void SetJournal(Journal journal) { journal_ = std::move(journal); }
+    // The clock followed between commands (not owned); the system clock when never set.
+    void SetClock(Clock* source) { clock_.SetSource(source); }
+    // Runs a kept command again at its time, before Start: its changes keep the record's user and
+    // are published when the server connects.
+    void Replay(const CommandRecord& record);
     // Connects, subscribes and announces the server online; NetworkError when the broker refuses.
     void Start();
     // Announces the server offline and disconnects.
@@ -59,10 +70,13 @@ class NetworkServer {
     void OnMessage(const MqttMessage& message);
     Response Handle(const Request& request);
     Response Execute(const Request& request);
+    // Runs a command at `time`; answers whether it changed anything, its visible changes in `changes`.
+    bool Run(const std::string& command, Date time, Response& response, std::vector<sim::ItemKey>& changes);
     Response CheckItems(const Request& request);
     void PublishItem(const sim::ItemKey& key, const std::string& user);
 
     std::shared_ptr<sim::SimulatedServer> server_;
+    CommandClock clock_;
     int16_t application_;
     Log log_;
     Journal journal_;
