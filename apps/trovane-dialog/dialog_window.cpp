@@ -96,6 +96,8 @@ void DialogWindow::AddPage(const DialogPage& page) {
         }
         AddPanelView(sited, *area);
     }
+    // Panels stand at the top of their page; a page taller than its panels keeps the space below.
+    if (area) area->addStretch(1);
 }
 
 // The view is made inside its frame (or area) from the start: a view made without a parent would

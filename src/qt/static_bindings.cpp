@@ -22,8 +22,14 @@ void LabelBinding::ShowCaption() {
     if (auto* label = qobject_cast<QLabel*>(View())) label->setText(ToQString(Model().Caption()));
 }
 
+// A frame's caption sits on its top border line, so the controls placed from the frame's top in
+// the design stand below the caption and inside the border, as designed.
 QWidget* FrameBinding::CreateView(QWidget* parent) {
-    return new QGroupBox(parent);
+    auto* box = new QGroupBox(parent);
+    box->setStyleSheet(
+        "QGroupBox { border: 1px solid palette(mid); border-radius: 2px; margin-top: 0.5em; }"
+        "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 3px; }");
+    return box;
 }
 
 void FrameBinding::ShowCaption() {
