@@ -26,7 +26,9 @@ void InitialiseLibrary() {
 std::string UniqueClientId() {
     static std::atomic<unsigned> counter{0};
     std::random_device random;
-    return "trovane-" + std::to_string(random()) + "-" + std::to_string(counter++);
+    // Only letters, digits and "_": the id appears unescaped in its reply topic, which the access
+    // list matches by client id.
+    return "trovane_" + std::to_string(random()) + "_" + std::to_string(counter++);
 }
 
 std::string ReasonText(int reason) {
@@ -34,7 +36,8 @@ std::string ReasonText(int reason) {
         case MQTT_RC_BAD_USERNAME_OR_PASSWORD:
             return "the user name or password was not accepted";
         case MQTT_RC_NOT_AUTHORIZED:
-            return "this user is not allowed to connect";
+            // What the broker answers a wrong password with, too.
+            return "the user name or password was not accepted, or the user may not connect";
         default:
             return mosquitto_reason_string(reason);
     }
@@ -63,7 +66,23 @@ std::string ParseBrokerUrl(std::string_view url, BrokerOptions& options) {
     } else {
         return "the broker address must start with mqtt:// or mqtts://, not \"" + std::string(url) + "\"";
     }
+    if (const size_t query = rest.find('?'); query != std::string_view::npos) {
+        const std::string_view parameter = rest.substr(query + 1);
+        if (!parameter.starts_with("cafile=") || parameter.size() == 7)
+            return "the broker address understands only ?cafile=FILE, not \"" + std::string(parameter) + "\"";
+        options.caFile = parameter.substr(7);
+        rest = rest.substr(0, query);
+    }
     if (!rest.empty() && rest.back() == '/') rest.remove_suffix(1);
+    if (const size_t at = rest.rfind('@'); at != std::string_view::npos) {
+        const std::string_view credentials = rest.substr(0, at);
+        const size_t colon = credentials.find(':');
+        options.user = credentials.substr(0, colon);
+        options.password =
+            colon == std::string_view::npos ? std::string() : std::string(credentials.substr(colon + 1));
+        if (options.user.empty()) return "no broker user before the @ in the broker address";
+        rest = rest.substr(at + 1);
+    }
     const size_t colon = rest.rfind(':');
     std::string_view host = rest.substr(0, colon);
     if (colon != std::string_view::npos) {
@@ -91,6 +110,8 @@ MqttClient::MqttClient(BrokerOptions options, Handlers handlers)
     mosquitto_disconnect_v5_callback_set(handle_, &MqttClient::OnDisconnect);
     mosquitto_message_v5_callback_set(handle_, &MqttClient::OnMessage);
     mosquitto_log_callback_set(handle_, &MqttClient::OnLog);
+    mosquitto_publish_v5_callback_set(handle_, &MqttClient::OnPublished);
+    mosquitto_subscribe_v5_callback_set(handle_, &MqttClient::OnSubscribed);
     // Back-off after a lost connection: 1 s, 2 s, 4 s ... at most 8 s between attempts.
     mosquitto_reconnect_delay_set(handle_, 1, 8, true);
     if (!options_.user.empty())
@@ -175,14 +196,70 @@ bool MqttClient::Publish(const std::string& topic, std::string_view payload, boo
             mosquitto_property_add_string_pair(&list, MQTT_PROP_USER_PROPERTY, "user",
                                                properties->user.c_str());
     }
-    const int rc = mosquitto_publish_v5(handle_, nullptr, topic.c_str(), static_cast<int>(payload.size()),
+    int mid = 0;
+    const int rc = mosquitto_publish_v5(handle_, &mid, topic.c_str(), static_cast<int>(payload.size()),
                                         payload.data(), kQos, retain, list);
     mosquitto_property_free_all(&list);
+    if (rc == MOSQ_ERR_SUCCESS && handlers_.onRefused) Track(mid, "publish on " + topic);
     return rc == MOSQ_ERR_SUCCESS;
 }
 
 bool MqttClient::Subscribe(const std::string& topic) {
-    return mosquitto_subscribe_v5(handle_, nullptr, topic.c_str(), kQos, 0, nullptr) == MOSQ_ERR_SUCCESS;
+    int mid = 0;
+    const int rc = mosquitto_subscribe_v5(handle_, &mid, topic.c_str(), kQos, 0, nullptr);
+    if (rc == MOSQ_ERR_SUCCESS && handlers_.onRefused) Track(mid, "read " + topic);
+    return rc == MOSQ_ERR_SUCCESS;
+}
+
+void MqttClient::Track(int mid, std::string what) {
+    // The acknowledgement may come before the id is tracked: a refusal seen first waits here.
+    // Ids are reused after 65535; an entry whose acknowledgement was lost with a connection is
+    // simply overwritten.
+    {
+        std::lock_guard lock(mutex_);
+        if (!refusedFirst_.erase(mid)) {
+            pending_[mid] = std::move(what);
+            return;
+        }
+    }
+    Refuse(what);
+}
+
+void MqttClient::Refused(int mid) {
+    if (!handlers_.onRefused) return;
+    std::string what;
+    {
+        std::lock_guard lock(mutex_);
+        const auto found = pending_.find(mid);
+        if (found == pending_.end()) {
+            refusedFirst_.insert(mid);
+            return;
+        }
+        what = std::move(found->second);
+        pending_.erase(found);
+    }
+    Refuse(what);
+}
+
+void MqttClient::Refuse(const std::string& what) {
+    const std::string user = options_.user.empty() ? "an anonymous client" : "the user " + options_.user;
+    handlers_.onRefused("the broker at " + Describe() + " does not allow " + user + " to " + what);
+}
+
+void MqttClient::OnPublished(mosquitto*, void* self, int mid, int reason, const mosquitto_property*) {
+    auto& client = *static_cast<MqttClient*>(self);
+    if (reason >= 0x80) return client.Refused(mid);
+    std::lock_guard lock(client.mutex_);
+    client.pending_.erase(mid);
+}
+
+void MqttClient::OnSubscribed(mosquitto*, void* self, int mid, int count, const int* granted,
+                              const mosquitto_property*) {
+    auto& client = *static_cast<MqttClient*>(self);
+    for (int i = 0; i < count; ++i)
+        if (granted[i] >= 0x80) return client.Refused(mid);
+    std::lock_guard lock(client.mutex_);
+    client.pending_.erase(mid);
 }
 
 bool MqttClient::Unsubscribe(const std::string& topic) {

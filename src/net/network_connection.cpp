@@ -33,7 +33,8 @@ int32_t NextNumber(int32_t& counter) {
 NetworkConnection::NetworkConnection(NetworkConnectionOptions options) : options_(std::move(options)) {
     client_ = std::make_unique<MqttClient>(
         options_.broker, MqttClient::Handlers{[this] { OnConnect(); }, [this] { OnDisconnect(); },
-                                              [this](const MqttMessage& message) { OnMessage(message); }});
+                                              [this](const MqttMessage& message) { OnMessage(message); },
+                                              [this](const std::string& refusal) { OnRefused(refusal); }});
     replyTopic_ = ReplyTopic(options_.application, client_->Options().clientId);
     client_->Connect();
 }
@@ -51,7 +52,21 @@ void NetworkConnection::Log(const std::string& line) const {
 
 bool NetworkConnection::WaitUntilReady(std::chrono::milliseconds patience) {
     std::unique_lock lock(mutex_);
-    return changed_.wait_for(lock, patience, [this] { return serverAnswered_ && client_->Connected(); });
+    const bool ready = changed_.wait_for(lock, patience, [this] {
+        return (serverAnswered_ && client_->Connected()) || !accessError_.empty();
+    });
+    if (!accessError_.empty()) throw NetworkError(accessError_);
+    return ready;
+}
+
+void NetworkConnection::OnRefused(const std::string& refusal) {
+    Log(refusal);
+    {
+        std::lock_guard lock(mutex_);
+        if (accessError_.empty()) accessError_ = refusal;
+    }
+    // A command already sent is not answered when its request or its answer was refused.
+    FailWaiting(refusal);
 }
 
 bool NetworkConnection::IsReady() {
@@ -69,6 +84,10 @@ bool NetworkConnection::Send(int16_t application, const Request& request, const 
 
 Response NetworkConnection::Ask(int16_t application, Request request) {
     request.user = options_.user;
+    {
+        std::lock_guard lock(mutex_);
+        if (!accessError_.empty()) throw Error(kNoAnswerError, accessError_);
+    }
     if (application != options_.application) {
         // Answers for another application come on that application's reply topic.
         client_->Subscribe(ReplyTopic(application, client_->Options().clientId));
@@ -257,6 +276,10 @@ void NetworkConnection::OnConnect() {
     for (const std::string& topic : topics) client_->Subscribe(topic);
     // The retained status says whether a server is there; its arrival starts the ping.
     client_->Subscribe(ServerStatusTopic(options_.application));
+    // A ping now as well: a broker that refuses the request topic says so at once, even to a
+    // workstation that may not read the status either.
+    Send(options_.application, {RequestKind::Ping, options_.user, "", {}},
+         std::string(kPingPrefix) + "connect");
 }
 
 void NetworkConnection::OnDisconnect() {

@@ -55,7 +55,8 @@ class NetworkConnection final : public Connection {
 
     std::string ClassName() const override { return "NetworkConnection"; }
 
-    // Waits until IsReady or the time is up; answers IsReady.
+    // Waits until IsReady or the time is up; answers IsReady. NetworkError when the broker's access
+    // list refuses what the workstation needs (its request topic, its reply topic, the items).
     bool WaitUntilReady(std::chrono::milliseconds patience);
 
     bool IsReady() override;
@@ -98,6 +99,7 @@ class NetworkConnection final : public Connection {
     void OnConnect();
     void OnDisconnect();
     void OnMessage(const MqttMessage& message);
+    void OnRefused(const std::string& refusal);
     void FailWaiting(const std::string& why);
     void Deliver(int32_t handle, const std::vector<size_t>& items,
                  const std::map<std::string, Variant>& values);
@@ -111,6 +113,7 @@ class NetworkConnection final : public Connection {
     mutable std::mutex mutex_;
     std::condition_variable changed_;
     bool serverAnswered_ = false;
+    std::string accessError_;                        // the first refusal of the broker's access list
     std::map<std::string, Waiting> waiting_;         // by correlation
     std::map<std::string, int> topicUsers_;          // subscribed item topics and how many items use each
     std::map<std::string, std::string> topicPaths_;  // an item path per topic, to ask the server again

@@ -22,9 +22,10 @@ NetworkServer::NetworkServer(std::shared_ptr<sim::SimulatedServer> server, Broke
       log_(log ? std::move(log) : Log(LogToStandardError)) {
     if (broker.clientId.empty()) broker.clientId = "trovane-server-" + std::to_string(application_);
     client_ = std::make_unique<MqttClient>(
-        std::move(broker),
-        MqttClient::Handlers{
-            [this] { OnConnect(); }, {}, [this](const MqttMessage& message) { OnMessage(message); }});
+        std::move(broker), MqttClient::Handlers{[this] { OnConnect(); },
+                                                {},
+                                                [this](const MqttMessage& message) { OnMessage(message); },
+                                                [this](const std::string& refusal) { log_(refusal); }});
     client_->SetWill(ServerStatusTopic(application_), kServerOffline);
     server_->Database().SetClock(&clock_);
     listenerId_ = server_->Database().AddChangeListener([this](const sim::ItemKey& key) {

@@ -25,12 +25,14 @@ class MqttProbe {
         BrokerOptions options;
         options.port = port;
         options.clientId = std::move(clientId);
-        client_ =
-            std::make_unique<MqttClient>(options, MqttClient::Handlers{{}, {}, [this](const MqttMessage& m) {
-                                                                           std::lock_guard lock(mutex_);
-                                                                           messages_.push_back(m);
-                                                                           arrived_.notify_all();
-                                                                       }});
+        client_ = std::make_unique<MqttClient>(options, MqttClient::Handlers{{},
+                                                                             {},
+                                                                             [this](const MqttMessage& m) {
+                                                                                 std::lock_guard lock(mutex_);
+                                                                                 messages_.push_back(m);
+                                                                                 arrived_.notify_all();
+                                                                             },
+                                                                             {}});
         client_->Connect();
     }
 
