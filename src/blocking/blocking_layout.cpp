@@ -1,10 +1,10 @@
 // Construction of the blocking panel: its controls, their default layout and their event wiring.
 //
-// The layout is the panel's form design, in twips: the six kinds in two columns of three (the
-// object's own processing on the left, its recording on the right), the single-signal option
-// beneath them, hidden until the container asks for it, and the three buttons in a row at the
-// bottom. Each captioned control carries its text identifier in its tag; Init turns the tags into
-// captions in the operator's language.
+// The layout is the panel's form design, in twips, wide enough for the longer captions of other
+// languages: the six kinds in two columns of three (the object's own processing on the left, its
+// recording on the right), the single-signal option beneath them, hidden until the container asks
+// for it, and the three buttons in a row at the bottom. Each captioned control carries its text
+// identifier in its tag; Init turns the tags into captions in the operator's language.
 
 #include "blocking/blocking.h"
 
@@ -12,12 +12,12 @@ namespace trovane {
 
 namespace {
 constexpr int32_t kMargin = 120;
-constexpr int32_t kColumnWidth = 1380;
+constexpr int32_t kColumnWidth = 2000;
 constexpr int32_t kRowHeight = 300;
 constexpr int32_t kCheckHeight = 255;
 constexpr int32_t kOptionTop = 1080;
 constexpr int32_t kButtonTop = 1500;
-constexpr int32_t kButtonWidth = 870;
+constexpr int32_t kButtonWidth = 1275;
 constexpr int32_t kButtonHeight = 375;
 constexpr int32_t kButtonGap = 75;
 constexpr int32_t kPanelWidth = 2 * kMargin + 2 * kColumnWidth;

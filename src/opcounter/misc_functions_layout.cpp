@@ -7,11 +7,11 @@ namespace trovane {
 
 namespace {
 constexpr int32_t kMargin = 120;
-constexpr int32_t kTitleWidth = 2520;
+constexpr int32_t kTitleWidth = 3000;
 constexpr int32_t kValueLeft = kMargin + kTitleWidth + 60;
 constexpr int32_t kValueWidth = 1200;
 constexpr int32_t kButtonLeft = kValueLeft + kValueWidth + 120;
-constexpr int32_t kButtonWidth = 870;
+constexpr int32_t kButtonWidth = 1200;
 constexpr int32_t kRowHeight = 315;
 constexpr int32_t kButtonHeight = 375;
 constexpr int32_t kFirstRow = 120;
