@@ -25,7 +25,7 @@ constexpr int32_t kLineHeight = 255;
 constexpr int32_t kBoxHeight = 315;
 constexpr int32_t kStateWidth = 1500;
 constexpr int32_t kStateGap = 60;
-constexpr int32_t kButtonWidth = 1095;
+constexpr int32_t kButtonWidth = 1200;
 constexpr int32_t kButtonHeight = 375;
 constexpr int32_t kButtonTop = 1230;
 
