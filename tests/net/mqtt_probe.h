@@ -10,6 +10,7 @@
 #include <deque>
 #include <mutex>
 #include <optional>
+#include <utility>
 
 #include "net/mqtt_client.h"
 #include "net/topics.h"
@@ -101,6 +102,20 @@ class MqttProbe {
             return false;
         });
         return found;
+    }
+    // Waits until `done` holds for everything received and not taken; false after the patience.
+    template <typename Done>
+    bool WaitUntil(Done done, std::chrono::milliseconds patience = kPatience) {
+        std::unique_lock lock(mutex_);
+        return arrived_.wait_for(lock, patience, [&] { return done(std::as_const(messages_)); });
+    }
+    std::deque<MqttMessage> Messages() {
+        std::lock_guard lock(mutex_);
+        return messages_;
+    }
+    void Forget() {
+        std::lock_guard lock(mutex_);
+        messages_.clear();
     }
     size_t Count(const std::string& topic) {
         std::lock_guard lock(mutex_);
