@@ -7,6 +7,7 @@
 // does: 1 And -1 is 1 (true), 1 And 2 is 0 (false).
 
 #include <cstdint>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -36,3 +37,5 @@ inline constexpr Bool16 kTrue16{true};
 inline constexpr Bool16 kFalse16{false};
 
 }  // namespace trovane
+
+#include "core/api_end.h"

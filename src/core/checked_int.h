@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "core/error.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -54,3 +55,5 @@ using Counter16 = CheckedCounter<int16_t>;
 using Counter32 = CheckedCounter<int32_t>;
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -55,3 +56,5 @@ std::string NumberText(double value);
 std::string CurrencyText(Currency value);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <stdexcept>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -40,3 +41,5 @@ class Error : public std::runtime_error {
 std::string StandardDescription(ErrorNumber number);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -32,3 +33,5 @@ private:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -43,3 +44,5 @@ struct CaseInsensitiveLess {
 Variant& RequiredArgument(std::span<Variant> args, size_t index);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -24,6 +24,7 @@
 #include <string>
 #include <variant>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -199,3 +200,5 @@ Variant MakeStringArray(std::vector<std::string> values, int32_t lowerBound = 0)
 Variant MakeLongArray(std::vector<int32_t> values, int32_t lowerBound = 0);
 
 }  // namespace trovane
+
+#include "core/api_end.h"
