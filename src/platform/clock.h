@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -23,3 +24,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -16,6 +16,7 @@
 
 #include "platform/color_setting_tool.h"
 #include "platform/files.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -43,3 +44,5 @@ class ColorScheme final : public ColorSettingTool {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -17,3 +18,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

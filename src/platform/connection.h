@@ -12,6 +12,7 @@
 
 #include "core/object.h"
 #include "platform/data_callback.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -46,3 +47,5 @@ class Connection : public Object {
 std::shared_ptr<Connection> ConnectionOf(const Variant& value);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

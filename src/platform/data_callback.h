@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -21,3 +22,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

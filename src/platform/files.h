@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -33,3 +34,5 @@ public:
 std::string NativePath(const std::string& path);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -15,6 +15,7 @@
 
 #include "platform/controls/signal.h"
 #include "platform/presenter.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -52,3 +53,5 @@ class HeadlessPresenter final : public Presenter {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -21,6 +21,7 @@
 #include <vector>
 
 #include "platform/window_system.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -96,3 +97,5 @@ class HeadlessWindowSystem final : public WindowSystem {
 ScreenRect ControlRectFromTwips(const Control& control, double twipsPerPixelX, double twipsPerPixelY);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -15,3 +16,5 @@ namespace trovane {
 uint16_t LanguageIdForCode(std::string_view code);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

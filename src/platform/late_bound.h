@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "core/object.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -53,3 +54,5 @@ class DispatchObject : public Object {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -28,3 +29,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

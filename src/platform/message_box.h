@@ -3,6 +3,7 @@
 
 #include <string>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -22,3 +23,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

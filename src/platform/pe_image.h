@@ -19,6 +19,7 @@
 #include <optional>
 #include <span>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -68,3 +69,5 @@ class PeImage {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

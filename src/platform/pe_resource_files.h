@@ -10,6 +10,7 @@
 
 #include "platform/files.h"
 #include "platform/resource_files.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -32,3 +33,5 @@ class PeResourceFiles final : public ResourceFiles {
 std::string LanguageCodeOfFileName(const std::string& fileName);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

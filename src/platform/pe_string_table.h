@@ -28,6 +28,7 @@
 #include <string>
 
 #include "platform/resource_files.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -47,3 +48,5 @@ class PeStringTable final : public StringTable {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

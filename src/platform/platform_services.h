@@ -12,6 +12,7 @@
 #include "platform/presenter.h"
 #include "platform/resource_files.h"
 #include "platform/window_system.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -29,3 +30,5 @@ struct PlatformServices {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -14,6 +14,7 @@
 // for the time of its presentation at most.
 
 #include <cstdint>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -30,3 +31,5 @@ class Presenter {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -18,6 +18,7 @@
 #include <vector>
 
 #include "platform/files.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -47,3 +48,5 @@ size_t GetPrivateProfileString(Files& files, std::string_view section, std::stri
                                const std::string& fileName);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

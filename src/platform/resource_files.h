@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -25,3 +26,5 @@ public:
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

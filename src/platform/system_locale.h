@@ -3,6 +3,7 @@
 // separator; the code page and character sets as the portable default has them.
 
 #include "platform/locale.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -20,3 +21,5 @@ class SystemLocale final : public Locale {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -14,6 +14,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -68,3 +69,5 @@ std::shared_ptr<TraceSink> TraceSinkFromEnvironment();
 std::shared_ptr<TraceSink> MakeFileTraceSink(const std::string& target);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

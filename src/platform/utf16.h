@@ -7,6 +7,7 @@
 
 #include <string>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -15,3 +16,5 @@ std::string Utf16ToUtf8(std::u16string_view text);
 void AppendUtf8(std::string& out, char32_t codePoint);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

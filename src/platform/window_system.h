@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -75,3 +76,5 @@ class WindowSystem {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

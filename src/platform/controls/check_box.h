@@ -8,6 +8,7 @@
 // MouseUp before that Click, as on a command button.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -30,3 +31,5 @@ class CheckBox : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

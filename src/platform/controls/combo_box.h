@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -52,3 +53,5 @@ class ComboBox : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -4,6 +4,7 @@
 // A form's default button answers Enter and its cancel button Escape; the front end decides when.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -22,3 +23,5 @@ class CommandButton : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -19,6 +19,7 @@
 #include <string>
 
 #include "platform/controls/widget.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -99,3 +100,5 @@ class Control : public Widget {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "core/object.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -17,3 +18,5 @@ class Form;
 ObjectRef MakeControlCollection(Form& form);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/error.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -28,3 +29,5 @@ inline Error KeyNotUnique() {
 }
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -1,4 +1,6 @@
 #pragma once
+
+#include "core/api_begin.h"
 // The names of the observable properties of controls and forms.
 //
 // A front end mirrors the headless model: every setter that changes something reports which
@@ -37,3 +39,5 @@ enum class ControlProperty {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -14,3 +14,6 @@
 #include "platform/controls/tab_strip.h"
 #include "platform/controls/text_box.h"
 #include "platform/controls/timer.h"
+#include "core/api_begin.h"
+
+#include "core/api_end.h"

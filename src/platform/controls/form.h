@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -117,3 +118,5 @@ class Form : public Widget {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

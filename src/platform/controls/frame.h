@@ -3,6 +3,7 @@
 // in one frame form one group, and disabling a frame stops operator input to everything inside.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -12,3 +13,5 @@ class Frame : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -11,6 +11,7 @@
 
 #include "platform/controls/picture.h"
 #include "platform/controls/signal.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -35,3 +36,5 @@ class ImageList {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -2,6 +2,7 @@
 // The classic numeric key and character codes and mouse buttons that controls and panels receive.
 
 #include <cstdint>
+#include "core/api_begin.h"
 
 namespace trovane::keys {
 
@@ -33,3 +34,5 @@ constexpr bool IsNavigationKey(int16_t keyCode) {
 }
 
 }  // namespace trovane::keys
+
+#include "core/api_end.h"

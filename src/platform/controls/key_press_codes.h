@@ -10,6 +10,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include "core/api_begin.h"
 
 namespace trovane::keypress {
 
@@ -49,3 +50,5 @@ constexpr char32_t CharacterOf(int32_t code) {
 }
 
 }  // namespace trovane::keypress
+
+#include "core/api_end.h"

@@ -2,6 +2,7 @@
 // Label: a caption on the form. It takes no input of its own beyond Click.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -11,3 +12,5 @@ class Label : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

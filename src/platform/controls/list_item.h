@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -55,3 +56,5 @@ class ListItem {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

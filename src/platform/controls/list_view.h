@@ -17,6 +17,7 @@
 #include "platform/controls/control.h"
 #include "platform/controls/image_list.h"
 #include "platform/controls/list_item.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -88,3 +89,5 @@ class ListView : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -3,6 +3,7 @@
 // font of its own.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -20,3 +21,5 @@ class Menu : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -10,6 +10,7 @@
 // the group already changed.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -29,3 +30,5 @@ class OptionButton : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

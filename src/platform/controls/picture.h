@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -18,3 +19,5 @@ struct Picture {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

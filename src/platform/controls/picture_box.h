@@ -4,6 +4,7 @@
 
 #include "platform/controls/control.h"
 #include "platform/controls/picture.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -19,3 +20,5 @@ class PictureBox : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -20,6 +20,7 @@
 #include <memory>
 #include <utility>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -170,3 +171,5 @@ class Signal {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

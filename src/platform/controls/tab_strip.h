@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -39,3 +40,5 @@ class TabStrip : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -20,6 +20,7 @@
 #include <utility>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -73,3 +74,5 @@ class TextBox : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

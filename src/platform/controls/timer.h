@@ -6,6 +6,7 @@
 // timer is invisible and has no font.
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -27,3 +28,5 @@ class Timer : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "platform/utf16.h"
+#include "core/api_begin.h"
 
 namespace trovane::utf8 {
 
@@ -71,3 +72,5 @@ inline std::string Encode(char32_t codePoint) {
 }
 
 }  // namespace trovane::utf8
+
+#include "core/api_end.h"

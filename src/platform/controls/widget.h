@@ -14,6 +14,7 @@
 #include "core/object.h"
 #include "platform/controls/control_property.h"
 #include "platform/controls/signal.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -76,3 +77,5 @@ class Widget : public Object {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
