@@ -9,6 +9,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -24,3 +25,5 @@ std::span<const BuiltinText> BuiltinTexts();
 std::optional<std::string_view> BuiltinTextFor(int32_t id);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -22,3 +23,5 @@ std::string ObjectReferenceText(std::string_view logicalName, int32_t index);
 std::string WithQuotesDoubled(std::string_view text);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -17,6 +17,7 @@
 #include "core/checked_int.h"
 #include "core/object.h"
 #include "platform/platform_services.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -115,3 +116,5 @@ class CommonFunctions : public Object {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

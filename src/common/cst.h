@@ -13,6 +13,7 @@
 #include "core/variant.h"
 #include "platform/color_setting_tool.h"
 #include "platform/platform_services.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -36,3 +37,5 @@ class Cst {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -30,6 +30,7 @@
 #include "platform/controls/form.h"
 #include "platform/controls/label.h"
 #include "platform/controls/timer.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -74,3 +75,5 @@ ErrorDlg& SharedErrorDlg(const PlatformServices& platform);
 ErrorDlg* ExistingErrorDlg();
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -61,3 +62,5 @@ class HostActions {
 void AnswerHostActions(DispatchObject& container, std::shared_ptr<HostActions> actions);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "platform/files.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -17,3 +18,5 @@ std::string ReadIniValue(Files& files, std::string_view section, std::string_vie
                          const std::string& fileName);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

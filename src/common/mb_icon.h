@@ -13,6 +13,7 @@
 #include <string>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -50,3 +51,5 @@ class MBIcon : public Control {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -32,6 +32,7 @@
 #include "platform/controls/form.h"
 #include "platform/data_callback.h"
 #include "platform/late_bound.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -86,3 +87,5 @@ class Panel : public Form, public SysDataCallback {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -17,6 +17,7 @@
 #include <string_view>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -38,3 +39,5 @@ void SetCaptionsFromTags(Form& form, const TextSource& texts,
                          std::span<const std::string_view> kinds = kCaptionedKinds);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -11,6 +11,7 @@
 
 #include "core/variant.h"
 #include "platform/locale.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -33,3 +34,5 @@ class FontHelper {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -17,3 +18,5 @@ std::string IndexedItemPath(int16_t application, const std::string& logicalName,
 std::string ApplicationItemPath(int16_t application, const std::string& attribute);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 
 #include "core/error.h"
 #include "platform/late_bound.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -21,3 +22,5 @@ DispatchObject::Handler ReturningEmpty(F operation) {
 }
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -21,6 +21,7 @@
 
 #include "common/panel.h"
 #include "common/standard_container.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -100,3 +101,5 @@ class SitedPanels {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -29,6 +29,7 @@
 #include "core/variant.h"
 #include "platform/connection.h"
 #include "platform/data_callback.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -99,3 +100,5 @@ class PanelSubscription {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -5,6 +5,7 @@
 // whoever owns the dialog registers how to unload it, and MakeCleanup only calls that hook.
 
 #include <functional>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -15,3 +16,5 @@ void SetSharedErrorDialogUnloader(std::function<void()> unloader);
 void UnloadSharedErrorDialog();
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -20,6 +20,7 @@
 #include "common/common_functions.h"
 #include "common/user_rights.h"
 #include "platform/late_bound.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -59,3 +60,5 @@ class StandardContainer : public DispatchObject {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

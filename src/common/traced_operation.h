@@ -12,6 +12,7 @@
 
 #include <functional>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -33,3 +34,5 @@ struct OperationName {
 bool RunTraced(OperationName name, OnFailure onFailure, const std::function<bool()>& body);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

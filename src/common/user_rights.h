@@ -1,4 +1,6 @@
 #pragma once
+
+#include "core/api_begin.h"
 // What the operator may do, as a container's rights queries answer it.
 //
 // A workstation asks its user administration; a host fills this from there (the demo host from its
@@ -18,3 +20,5 @@ struct UserRights {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
