@@ -27,6 +27,7 @@
 #include "indication/object_comment_dialog.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/label.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -96,3 +97,5 @@ class IndicationBar : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

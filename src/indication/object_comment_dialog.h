@@ -18,6 +18,7 @@
 #include "platform/controls/form.h"
 #include "platform/controls/label.h"
 #include "platform/controls/text_box.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -60,3 +61,5 @@ class ObjectCommentDialog : public Form {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
