@@ -17,6 +17,7 @@
 
 #include "alarms/alarm_states.h"
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -41,3 +42,5 @@ std::string AcknowledgeCommand(const std::string& rowKey);
 bool CanBeAcknowledged(const std::string& key, const std::string& tag);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

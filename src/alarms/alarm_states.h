@@ -13,6 +13,7 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -41,3 +42,5 @@ inline constexpr std::array<AlarmState, 9> kAlarmStates{{
 const AlarmState* ClassifyAlarmState(std::string_view keyword);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -26,6 +26,7 @@
 #include "platform/controls/command_button.h"
 #include "platform/controls/list_view.h"
 #include "platform/controls/picture_box.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -103,3 +104,5 @@ class Alarms : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
