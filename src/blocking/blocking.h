@@ -22,6 +22,7 @@
 #include "platform/controls/check_box.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/label.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -99,3 +100,5 @@ class Blocking : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -16,6 +16,7 @@
 #include <string_view>
 
 #include "blocking/blocking_kinds.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -33,3 +34,5 @@ std::string SetBlockingStateCommand(const std::string& logicalName, int32_t base
 std::string GetEnabledBlockingsCommand(const std::string& logicalName, int32_t baseIndex);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -39,3 +40,5 @@ inline constexpr std::array<BlockingKind, kBlockingKindCount> kBlockingKinds{{
 const BlockingKind* FindBlockingKindByProperty(std::string_view property);
 
 }  // namespace trovane
+
+#include "core/api_end.h"
