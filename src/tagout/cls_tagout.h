@@ -26,6 +26,7 @@
 #include "platform/message_box.h"
 #include "tagout/member_table.h"
 #include "tagout/str_coll.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -88,3 +89,5 @@ class clsTagout : public Object {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

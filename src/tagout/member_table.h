@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "core/object.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -35,3 +36,5 @@ class MemberTable {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -6,6 +6,7 @@
 
 #include "core/object.h"
 #include "platform/message_box.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -15,3 +16,5 @@ ObjectRef CreateTagoutObject(std::string_view className, std::shared_ptr<Message
                                                              std::make_shared<StandardErrorMessageBox>());
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -21,6 +21,7 @@
 #include "core/object.h"
 #include "platform/message_box.h"
 #include "tagout/member_table.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -63,3 +64,5 @@ class cStrColl : public Object {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -36,6 +36,7 @@
 #include "platform/controls/list_view.h"
 #include "tagout/cls_tagout.h"
 #include "tagout/str_coll.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -172,3 +173,5 @@ class Tagout : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -28,6 +28,7 @@
 #include "platform/controls/frame.h"
 #include "platform/controls/label.h"
 #include "platform/controls/tab_strip.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -84,3 +85,5 @@ class TagoutEditDialog : public Form {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

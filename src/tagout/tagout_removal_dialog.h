@@ -12,6 +12,7 @@
 #include "platform/controls/command_button.h"
 #include "platform/controls/form.h"
 #include "platform/controls/label.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -39,3 +40,5 @@ class TagoutRemovalDialog : public Form {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
