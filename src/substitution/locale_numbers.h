@@ -12,6 +12,7 @@
 
 #include "core/variant.h"
 #include "platform/locale.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -38,3 +39,5 @@ class LocaleNumbers {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

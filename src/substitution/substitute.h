@@ -29,6 +29,7 @@
 #include "platform/controls/text_box.h"
 #include "substitution/locale_numbers.h"
 #include "substitution/substitution_signal.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -119,3 +120,5 @@ class Substitute : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

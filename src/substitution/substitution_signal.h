@@ -11,6 +11,7 @@
 #include <string>
 
 #include "common/common_functions.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -58,3 +59,5 @@ class SubstitutionSignal {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
