@@ -24,6 +24,7 @@
 #include "platform/controls/frame.h"
 #include "platform/controls/option_button.h"
 #include "platform/controls/text_box.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -84,3 +85,5 @@ class OperatorPlace : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
