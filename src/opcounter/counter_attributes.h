@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -39,3 +40,5 @@ std::string ExtraInfoCommand(std::string_view objectName, int32_t objectIndex);
 std::optional<float> AcceptedLimit(std::string_view text);
 
 }  // namespace trovane
+
+#include "core/api_end.h"

@@ -23,6 +23,7 @@
 #include "platform/controls/command_button.h"
 #include "platform/controls/label.h"
 #include "platform/controls/text_box.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -87,3 +88,5 @@ class MiscFunctions : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
