@@ -13,6 +13,7 @@
 #include "common/panel.h"
 #include "core/bool16.h"
 #include "platform/controls/command_button.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -43,3 +44,5 @@ class DialUp : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"

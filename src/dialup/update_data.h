@@ -10,6 +10,7 @@
 #include "common/panel.h"
 #include "core/bool16.h"
 #include "platform/controls/command_button.h"
+#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -27,3 +28,5 @@ class UpdateData : public Panel {
 };
 
 }  // namespace trovane
+
+#include "core/api_end.h"
