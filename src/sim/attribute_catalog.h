@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -48,3 +49,5 @@ inline constexpr int32_t kAnalogType = 9;
 inline constexpr int32_t kDoubleBinaryType = 12;
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

@@ -9,6 +9,7 @@
 #include <cstdint>
 
 #include "sim/process_database.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -20,3 +21,5 @@ inline constexpr double kDialSeconds = 2.0;
 int32_t AdvanceDialUpLines(ProcessDatabase& database);
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

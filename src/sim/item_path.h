@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "sim/process_database.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -22,3 +23,5 @@ struct ItemPath {
 std::optional<ItemPath> ParseItemPath(std::string_view path);
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

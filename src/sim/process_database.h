@@ -28,6 +28,7 @@
 #include "core/variant.h"
 #include "platform/clock.h"
 #include "sim/tagout_store.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -157,3 +158,5 @@ class ProcessDatabase {
 };
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

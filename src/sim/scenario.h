@@ -9,6 +9,7 @@
 #include <string>
 
 #include "sim/process_database.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -27,3 +28,5 @@ const std::string& DemoScenarioText();
 std::unique_ptr<ProcessDatabase> MakeDemoDatabase();
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

@@ -18,6 +18,7 @@
 
 #include "platform/connection.h"
 #include "sim/simulated_server.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -85,3 +86,5 @@ class SimulatedConnection final : public Connection {
 };
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

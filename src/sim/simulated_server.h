@@ -13,6 +13,7 @@
 
 #include "sim/process_database.h"
 #include "sim/vexl_environment.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -38,3 +39,5 @@ class SimulatedServer final : public VexlEnvironment {
 };
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

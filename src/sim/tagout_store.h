@@ -23,6 +23,7 @@
 #include <set>
 #include <string>
 #include <vector>
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -75,3 +76,5 @@ struct TagoutEvent {
 };
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

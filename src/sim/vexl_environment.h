@@ -18,6 +18,7 @@
 #include <string>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -74,3 +75,5 @@ inline constexpr int32_t kValueTooLarge = 2012;           // "VEXL_VALUE_TOO_LAR
 }  // namespace status
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

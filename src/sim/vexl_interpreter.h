@@ -20,6 +20,7 @@
 #include "sim/vexl_notation.h"
 #include "sim/vexl_status_names.h"
 #include "sim/vexl_values.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -39,3 +40,5 @@ class VexlInterpreter {
 };
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

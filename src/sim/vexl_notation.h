@@ -12,9 +12,12 @@
 #include <string>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
 std::string VexlNotation(const Variant& value);
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

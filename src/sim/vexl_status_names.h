@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <string>
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -11,3 +12,5 @@ namespace trovane::sim {
 std::string StatusCodeName(int32_t code);
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"

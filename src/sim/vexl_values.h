@@ -23,6 +23,7 @@
 #include <vector>
 
 #include "core/variant.h"
+#include "core/api_begin.h"
 
 namespace trovane::sim {
 
@@ -44,3 +45,5 @@ bool IsVexlInteger(const Variant& value);
 std::string UpperName(std::string name);
 
 }  // namespace trovane::sim
+
+#include "core/api_end.h"
