@@ -16,6 +16,7 @@
 #include <QWidget>
 
 #include "platform/window_system.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -49,3 +50,5 @@ class BalloonTipWindow final : public QWidget {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -11,6 +11,7 @@
 #include <QAbstractButton>
 
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -62,3 +63,5 @@ class OptionButtonBinding final : public PressableBinding {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -6,6 +6,7 @@
 // text, and a character that a KeyPress handler discarded never reaches it.
 
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -41,3 +42,5 @@ class TabStripBinding final : public ControlBinding {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -21,6 +21,7 @@
 #include <QWidget>
 
 #include "platform/controls/control.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -105,3 +106,5 @@ class ControlBinding : public QObject {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

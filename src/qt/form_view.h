@@ -21,6 +21,7 @@
 
 #include "platform/controls/form.h"
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -70,3 +71,5 @@ class FormView final : public QWidget {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

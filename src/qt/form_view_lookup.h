@@ -4,6 +4,7 @@
 
 #include "platform/controls/form.h"
 #include "qt/form_view.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -12,3 +13,5 @@ namespace trovane::qt {
 FormView* FindFormView(const Form& form);
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

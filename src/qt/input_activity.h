@@ -13,6 +13,7 @@
 #include <QObject>
 
 #include "platform/clock.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -37,3 +38,5 @@ class InputActivity final : public QObject {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

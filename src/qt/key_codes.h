@@ -13,6 +13,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -25,3 +26,5 @@ char32_t TypedCharacter(const QKeyEvent& event);
 bool IsNavigationKey(int16_t keyCode);
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 
 #include "platform/controls/list_view.h"
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 class QTreeView;
 
@@ -39,3 +40,5 @@ class ListViewBinding final : public ControlBinding {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

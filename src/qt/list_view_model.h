@@ -19,6 +19,7 @@
 #include <QIcon>
 
 #include "platform/controls/list_view.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -56,3 +57,5 @@ class ListViewModel final : public QAbstractTableModel {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -10,6 +10,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -32,3 +33,5 @@ class NotificationPump final : public QObject {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -6,6 +6,7 @@
 #include <QPixmap>
 
 #include "platform/controls/picture.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -13,3 +14,5 @@ QPixmap PixmapOf(const Picture& picture);
 QIcon IconOf(const Picture& picture);
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

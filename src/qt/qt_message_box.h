@@ -2,6 +2,7 @@
 // The platform message box as a Qt message box: modal, with the standard icon, one OK button.
 
 #include "platform/message_box.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -11,3 +12,5 @@ class QtMessageBox final : public MessageBox {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 #include "qt/input_activity.h"
 #include "qt/qt_presenter.h"
 #include "qt/qt_window_system.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -22,3 +23,5 @@ struct QtPlatform {
 QtPlatform MakeQtPlatform();
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

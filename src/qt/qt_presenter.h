@@ -22,6 +22,7 @@
 #include "platform/presenter.h"
 #include "qt/form_view.h"
 #include "qt/qt_window_system.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -57,3 +58,5 @@ class QtPresenter final : public Presenter {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -24,6 +24,7 @@
 #include "platform/window_system.h"
 #include "qt/balloon_tip_window.h"
 #include "qt/input_activity.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -75,3 +76,5 @@ class QtWindowSystem final : public WindowSystem {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

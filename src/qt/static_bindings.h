@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -60,3 +61,5 @@ class HiddenBinding final : public ControlBinding {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

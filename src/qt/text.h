@@ -12,6 +12,7 @@
 #include <QString>
 
 #include "platform/controls/utf8_positions.h"
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -77,3 +78,5 @@ inline int32_t ModelPosition(std::string_view text, int shownIndex, bool joinLin
 }
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -12,6 +12,7 @@
 // the binding translates.
 
 #include "qt/control_binding.h"
+#include "core/api_begin.h"
 
 class QLineEdit;
 class QPlainTextEdit;
@@ -42,3 +43,5 @@ class TextBoxBinding final : public ControlBinding {
 };
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"

@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -26,3 +27,5 @@ inline int32_t PixelsToTwips(int pixels, double twipsPerPixel) {
 }
 
 }  // namespace trovane::qt
+
+#include "core/api_end.h"
