@@ -106,6 +106,9 @@ MqttClient::MqttClient(BrokerOptions options, Handlers handlers)
     handle_ = mosquitto_new(options_.clientId.c_str(), true, this);
     if (!handle_) throw NetworkError("cannot create a broker client");
     mosquitto_int_option(handle_, MOSQ_OPT_PROTOCOL_VERSION, MQTT_PROTOCOL_V5);
+    // A request or answer is a small packet written right after the acknowledgement of the one
+    // before; held back for the peer's delayed acknowledgement it would wait tens of milliseconds.
+    mosquitto_int_option(handle_, MOSQ_OPT_TCP_NODELAY, 1);
     mosquitto_connect_v5_callback_set(handle_, &MqttClient::OnConnect);
     mosquitto_disconnect_v5_callback_set(handle_, &MqttClient::OnDisconnect);
     mosquitto_message_v5_callback_set(handle_, &MqttClient::OnMessage);

@@ -79,7 +79,9 @@ bool MosquittoBroker::TryStart() {
         std::ofstream out(config);
         // Run as whoever runs the test, so that the broker can read the files in the test's directory.
         if (const passwd* user = getpwuid(geteuid())) out << "user " << user->pw_name << "\n";
-        out << "persistence false\nlog_dest stderr\nlog_type error\nlog_type warning\nlog_type notice\n"
+        // Without set_tcp_nodelay each small packet after another waits for a delayed acknowledgement.
+        out << "persistence false\nset_tcp_nodelay true\n"
+            << "log_dest stderr\nlog_type error\nlog_type warning\nlog_type notice\n"
             << "per_listener_settings true\nlistener " << port_ << " 127.0.0.1\n"
             << listenerConfig_;
     }
