@@ -14,7 +14,7 @@ repetitions=${BENCH_REPETITIONS:-5}
 
 echo "== Building $dir" >&2
 cmake -S . -B "$dir" -DCMAKE_BUILD_TYPE=Release -DTROVANE_BUILD_TESTS=OFF > /dev/null
-if ! cmake --build "$dir" -j "$(nproc)" --target alarms_bench common_bench qt_bench > "$dir/build.log" 2>&1; then
+if ! cmake --build "$dir" -j "$(nproc)" --target alarms_bench common_bench qt_bench net_bench > "$dir/build.log" 2>&1; then
     tail -n 40 "$dir/build.log" >&2
     exit 1
 fi
@@ -41,6 +41,7 @@ run qt_list qt/qt_bench '^(QtPanelRefresh|PlainTreeRefresh)/'
 run startup qt/qt_bench '^(DialogFirstFrame|MinimalWindowFirstFrame)'
 run commands common/common_bench '^Commands'
 run storm alarms/alarms_bench '^AlarmStorm' 3
+run network net/net_bench '^(Net|InProcess)(Read|Write)RoundTrip'
 
 cpu=$(awk -F': ' '/^model name/ { print $2; exit }' /proc/cpuinfo)
 echo "Measured $(date +%Y-%m-%d) on $(nproc) cores, ${cpu:-unknown CPU}; medians of $repetitions runs (the storm: 3)."
@@ -98,6 +99,17 @@ awk -F, '
         ratio("Dialog / minimal window start-up", "DialogFirstFrame", "MinimalWindowFirstFrame", "ms")
         single("Commands per second, tracing off", "CommandsUntraced", "items_per_second", 1, "%.0f")
         single("Commands per second, tracing to a file", "CommandsTracedToFile", "items_per_second", 1, "%.0f")
+        single("Command round trips per second through the broker, read", "NetReadRoundTrip", "items_per_second", 1, "%.0f")
+        single("Command round trip through the broker, read, p50", "NetReadRoundTrip", "p50_us", 1, "%.0f us")
+        single("Command round trip through the broker, read, p99", "NetReadRoundTrip", "p99_us", 1, "%.0f us")
+        single("Command round trips per second in-process, read", "InProcessReadRoundTrip", "items_per_second", 1, "%.0f")
+        single("Command round trip in-process, read, p50", "InProcessReadRoundTrip", "p50_us", 1, "%.1f us")
+        single("Command round trip in-process, read, p99", "InProcessReadRoundTrip", "p99_us", 1, "%.1f us")
+        single("Command round trips per second through the broker, notified write", "NetWriteRoundTrip", "items_per_second", 1, "%.0f")
+        single("Command round trip through the broker, notified write, p50", "NetWriteRoundTrip", "p50_us", 1, "%.0f us")
+        single("Command round trip through the broker, notified write, p99", "NetWriteRoundTrip", "p99_us", 1, "%.0f us")
+        single("Command round trips per second in-process, notified write", "InProcessWriteRoundTrip", "items_per_second", 1, "%.0f")
+        ratio("Round trip through the broker / in-process, read", "NetReadRoundTrip", "InProcessReadRoundTrip", "ms")
         single("Alarm storm: 20,000 signals, 1,000 changes pumped per 100", "AlarmStorm", "ms", 1, "%.0f ms")
         single("Alarm storm: list rebuilds per notification batch", "AlarmStorm", "rebuilds_per_batch", 1, "%.2f", "<= 1", 1)
         single("Alarm storm: rows differing from the server", "AlarmStorm", "rows_differing", 1, "%d", "0", 0)
