@@ -29,8 +29,8 @@ int main() {
     using namespace trovane;
     static_assert(TROVANE_VERSION_MAJOR >= 0 && TROVANE_VERSION > 0, "the version header is generated");
 
-    auto connection =
-        std::make_shared<sim::SimulatedConnection>(std::make_shared<sim::SimulatedServer>(sim::MakeDemoDatabase()));
+    auto connection = std::make_shared<sim::SimulatedConnection>(
+        std::make_shared<sim::SimulatedServer>(sim::MakeDemoDatabase()));
     const Variant server{ObjectRef(connection)};
     auto functions = std::make_shared<CommonFunctions>();
 
@@ -47,8 +47,9 @@ int main() {
     PutProperty(panel, "logicalName", Variant(std::string("ABC")));
     PutProperty(panel, "baseIndex", Variant(int32_t{10}));
     CallMethod(panel, "Init");
-    CallMethod(panel, "SetBlocking", {Variant(int16_t{0}), Variant(int16_t{1}), Variant(int16_t{0}),
-                                      Variant(int16_t{0}), Variant(int16_t{0}), Variant(int16_t{0})});
+    CallMethod(panel, "SetBlocking",
+               {Variant(int16_t{0}), Variant(int16_t{1}), Variant(int16_t{0}), Variant(int16_t{0}),
+                Variant(int16_t{0}), Variant(int16_t{0})});
     if (ToInt32(functions->RunVexlCmdGlobal(server, "#return ABC:PCB10", 1)) != 1)
         return Fail("SetBlocking by name did not block control on the server");
 
