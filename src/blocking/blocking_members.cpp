@@ -8,12 +8,7 @@
 namespace trovane {
 
 void Blocking::RegisterMembers() {
-    Members().Property(
-        "logicalName", [this] { return Variant(logicalName); },
-        [this](const Variant& v) { logicalName = ToString(v); });
-    Members().Property(
-        "baseIndex", [this] { return Variant(baseIndex); },
-        [this](const Variant& v) { baseIndex = ToInt32(v); });
+    PublishObjectIdentity(Members(), logicalName, baseIndex);
     Members().Property("isRefreshing", [this] { return Variant(isRefreshing); });
     for (const BlockingKind& blockingKind : kBlockingKinds) {
         const int16_t position = blockingKind.position;

@@ -8,12 +8,7 @@
 namespace trovane {
 
 void Substitute::RegisterMembers() {
-    Members().Property(
-        "logicalName", [this] { return Variant(logicalName); },
-        [this](const Variant& v) { logicalName = ToString(v); });
-    Members().Property(
-        "baseIndex", [this] { return Variant(baseIndex); },
-        [this](const Variant& v) { baseIndex = ToInt32(v); });
+    PublishObjectIdentity(Members(), logicalName, baseIndex);
     Members().Property(
         "singleSignal", [this] { return Variant(singleSignal); },
         [this](const Variant& v) { singleSignal = ToBool(v); });

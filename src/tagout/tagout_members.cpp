@@ -16,12 +16,7 @@ std::string Text(Args args, size_t index) {
 }  // namespace
 
 void Tagout::RegisterMembers() {
-    Members().Property(
-        "logicalName", [this] { return Variant(logicalName); },
-        [this](const Variant& v) { logicalName = ToString(v); });
-    Members().Property(
-        "baseIndex", [this] { return Variant(baseIndex); },
-        [this](const Variant& v) { baseIndex = ToInt32(v); });
+    PublishObjectIdentity(Members(), logicalName, baseIndex);
     Members().Property("clsActiveTagouts", [this] { return Variant(ObjectRef(clsActiveTagouts)); });
     Members().Property("colChangedAttrNames", [this] { return Variant(ObjectRef(colChangedAttrNames)); });
     Members().Method("bClassHasActionMethods", [this](Args) { return Variant(bClassHasActionMethods()); });
