@@ -5,6 +5,17 @@ include(GenerateExportHeader)
 
 set(TROVANE_INCLUDE_ROOT ${CMAKE_INSTALL_INCLUDEDIR}/trovane)
 set(TROVANE_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/TrovaneCommon)
+# The programs with the files they look for beside themselves (language folders); bin holds links.
+set(TROVANE_APP_DIR ${CMAKE_INSTALL_LIBDIR}/trovane)
+
+# trovane_install_program(<target> <component>): the program into TROVANE_APP_DIR, a link in bin.
+function(trovane_install_program target component)
+    install(TARGETS ${target} RUNTIME DESTINATION ${TROVANE_APP_DIR} COMPONENT ${component})
+    file(RELATIVE_PATH target_path /${CMAKE_INSTALL_BINDIR} /${TROVANE_APP_DIR}/${target})
+    file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/bin-links)
+    file(CREATE_LINK ${target_path} ${CMAKE_CURRENT_BINARY_DIR}/bin-links/${target} SYMBOLIC)
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/bin-links/${target} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component})
+endfunction()
 
 # trovane_install_library(<target> EXPORT_NAME <name> [EXPORT_SET <set>] HEADERS <header>...)
 # Call after the target's target_link_libraries. Headers are paths relative to the calling folder.
