@@ -19,6 +19,8 @@ run_suite() {
 run_suite build/test
 # The library as a host project uses it: installed (find_package) and as a source tree (add_subdirectory).
 bash scripts/consumer_test.sh build/test
+# The Debian packages from the same build: contents, dependencies, lintian, the dialog unpacked.
+bash scripts/package.sh build/test
 ASAN_OPTIONS=detect_leaks=1:strict_string_checks=1 UBSAN_OPTIONS=print_stacktrace=1 \
     run_suite build/sanitize -DTROVANE_SANITIZE=address,undefined -DTROVANE_BUILD_BENCH=OFF
 
