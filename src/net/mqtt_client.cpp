@@ -263,6 +263,13 @@ void MqttClient::OnSubscribed(mosquitto*, void* self, int mid, int count, const 
         if (granted[i] >= 0x80) return client.Refused(mid);
     std::lock_guard lock(client.mutex_);
     client.pending_.erase(mid);
+    ++client.subscriptionsGranted_;
+    client.changed_.notify_all();
+}
+
+bool MqttClient::WaitForSubscriptions(size_t count, std::chrono::milliseconds patience) {
+    std::unique_lock lock(mutex_);
+    return changed_.wait_for(lock, patience, [&] { return subscriptionsGranted_ >= count; });
 }
 
 bool MqttClient::Unsubscribe(const std::string& topic) {

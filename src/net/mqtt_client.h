@@ -83,6 +83,9 @@ class MqttClient {
     bool Unsubscribe(const std::string& topic);
 
     bool Connected() const;
+    // Waits until the broker has granted at least `count` subscriptions since this client was made;
+    // false after the patience.
+    bool WaitForSubscriptions(size_t count, std::chrono::milliseconds patience);
     const BrokerOptions& Options() const { return options_; }
     std::string Describe() const;  // "mqtt://host:port"
 
@@ -109,6 +112,7 @@ class MqttClient {
     std::optional<int> refusal_;  // the broker's reason code of the first refused connection
     std::string lastError_;       // the library's last error line (TLS failures name themselves there)
     bool started_ = false;
+    size_t subscriptionsGranted_ = 0;
     std::map<int, std::string> pending_;  // unacknowledged publications and subscriptions by id
     std::set<int> refusedFirst_;          // refusals that came before their id was tracked
 };

@@ -40,8 +40,12 @@ NetworkServer::~NetworkServer() {
     server_->Database().SetClock(nullptr);
 }
 
+// Returns once the broker has the server's request subscription: a request published before that
+// would be lost, and only a workstation's ping asks again.
 void NetworkServer::Start() {
     client_->Connect();
+    if (!client_->WaitForSubscriptions(1, client_->Options().connectTimeout))
+        log_("the broker did not confirm the request subscription in time");
 }
 
 void NetworkServer::Stop() {
