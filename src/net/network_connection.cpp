@@ -7,6 +7,7 @@
 #include "net/topics.h"
 #include "net/variant_wire.h"
 #include "platform/clock.h"
+#include "platform/connection_support.h"
 
 namespace trovane::net {
 
@@ -15,18 +16,6 @@ namespace {
 constexpr int32_t kGoodQuality = 192;
 constexpr std::string_view kPingPrefix = "ping-";
 constexpr std::string_view kItemsPrefix = "items-";
-
-const VariantArray& ArrayArgument(const Variant& value, const char* what) {
-    if (!value.IsArray())
-        throw Error(ErrorNumber::InvalidCall, std::string("AddItems: ") + what + " must be an array");
-    return value.AsArray();
-}
-
-int32_t NextNumber(int32_t& counter) {
-    const int32_t number = counter;
-    counter = counter == INT32_MAX ? 1 : counter + 1;
-    return number;
-}
 
 }  // namespace
 
@@ -131,10 +120,7 @@ void NetworkConnection::ExecuteCommand(int16_t application, const std::string& c
 
 void NetworkConnection::AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t, int32_t,
                                  int32_t& subscriptionHandle, Variant& results) {
-    const VariantArray& handles = ArrayArgument(clientHandles, "the client handles");
-    const VariantArray& paths = ArrayArgument(itemPaths, "the item paths");
-    if (handles.Size() != paths.Size())
-        throw Error(ErrorNumber::InvalidCall, "AddItems: as many client handles as item paths are needed");
+    const auto [handles, paths] = CheckedAddItemsArguments(clientHandles, itemPaths);
     Subscription subscription;
     Request request{RequestKind::Items, options_.user, "", {}};
     for (size_t i = 0; i < paths.Size(); ++i) {
@@ -247,23 +233,13 @@ int32_t NetworkConnection::Pump() {
 void NetworkConnection::Deliver(int32_t handle, const std::vector<size_t>& items,
                                 const std::map<std::string, Variant>& values) {
     const Subscription& subscription = subscriptions_.at(handle);
-    const size_t count = items.size();
-    VariantArray clientHandles(ElementKind::Long, 0, count);
-    VariantArray itemValues(ElementKind::Variant, 0, count);
-    VariantArray qualities(ElementKind::Long, 0, count);
-    VariantArray timeStamps(ElementKind::Date, 0, count);
+    DataChangeBatch batch(items.size());
     const Date now = SystemClock().Now();
-    for (size_t i = 0; i < count; ++i) {
+    for (size_t i = 0; i < items.size(); ++i) {
         const Item& item = subscription.items[items[i]];
-        const auto position = static_cast<int64_t>(i);
-        clientHandles.Set(position, item.clientHandle);
-        itemValues.Set(position, values.at(*item.topic));
-        qualities.Set(position, kGoodQuality);
-        timeStamps.Set(position, now);
+        batch.Set(i, item.clientHandle, values.at(*item.topic), kGoodQuality, now);
     }
-    subscription.callback->OnDataChange(NextNumber(nextTransaction_), handle, static_cast<int32_t>(count),
-                                        Variant(std::move(clientHandles)), Variant(std::move(itemValues)),
-                                        Variant(std::move(qualities)), Variant(std::move(timeStamps)));
+    batch.Send(*subscription.callback, NextNumber(nextTransaction_), handle);
 }
 
 void NetworkConnection::OnConnect() {

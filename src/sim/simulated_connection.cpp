@@ -5,6 +5,7 @@
 
 #include "core/conversions.h"
 #include "core/error.h"
+#include "platform/connection_support.h"
 #include "sim/item_path.h"
 
 namespace trovane::sim {
@@ -13,19 +14,6 @@ namespace {
 
 constexpr int32_t kGoodQuality = 192;
 constexpr int32_t kBadQuality = 0;
-
-const VariantArray& ArrayArgument(const Variant& value, const char* what) {
-    if (!value.IsArray())
-        throw Error(ErrorNumber::InvalidCall, std::string("AddItems: ") + what + " must be an array");
-    return value.AsArray();
-}
-
-// Handles and transaction numbers count from 1 and start over rather than overflow.
-int32_t NextNumber(int32_t& counter) {
-    const int32_t number = counter;
-    counter = counter == INT32_MAX ? 1 : counter + 1;
-    return number;
-}
 
 }  // namespace
 
@@ -72,10 +60,7 @@ SimulatedConnection::Item SimulatedConnection::MakeItem(int32_t clientHandle, co
 
 void SimulatedConnection::AddItems(const Variant& clientHandles, const Variant& itemPaths, int32_t, int32_t,
                                    int32_t& subscriptionHandle, Variant& results) {
-    const VariantArray& handles = ArrayArgument(clientHandles, "the client handles");
-    const VariantArray& paths = ArrayArgument(itemPaths, "the item paths");
-    if (handles.Size() != paths.Size())
-        throw Error(ErrorNumber::InvalidCall, "AddItems: as many client handles as item paths are needed");
+    const auto [handles, paths] = CheckedAddItemsArguments(clientHandles, itemPaths);
     Subscription subscription;
     VariantArray itemResults(ElementKind::Long, paths.LowerBound(), paths.Size());
     for (size_t i = 0; i < paths.Size(); ++i) {
@@ -150,27 +135,17 @@ int32_t SimulatedConnection::Pump() {
 
 void SimulatedConnection::Deliver(int32_t handle, const std::vector<size_t>& items) {
     const Subscription& subscription = subscriptions_.at(handle);
-    const size_t count = items.size();
-    VariantArray clientHandles(ElementKind::Long, 0, count);
-    VariantArray values(ElementKind::Variant, 0, count);
-    VariantArray qualities(ElementKind::Long, 0, count);
-    VariantArray timeStamps(ElementKind::Date, 0, count);
+    DataChangeBatch batch(items.size());
     const Date now = server_->Now();
-    for (size_t i = 0; i < count; ++i) {
+    for (size_t i = 0; i < items.size(); ++i) {
         const Item& item = subscription.items[items[i]];
-        const auto position = static_cast<int64_t>(i);
-        clientHandles.Set(position, item.clientHandle);
-        timeStamps.Set(position, now);
         try {
-            values.Set(position, server_->Database().Read(*item.key));
-            qualities.Set(position, kGoodQuality);
+            batch.Set(i, item.clientHandle, server_->Database().Read(*item.key), kGoodQuality, now);
         } catch (const VexlStatus&) {
-            qualities.Set(position, kBadQuality);
+            batch.Set(i, item.clientHandle, Variant(), kBadQuality, now);
         }
     }
-    subscription.callback->OnDataChange(NextNumber(nextTransaction_), handle, static_cast<int32_t>(count),
-                                        Variant(std::move(clientHandles)), Variant(std::move(values)),
-                                        Variant(std::move(qualities)), Variant(std::move(timeStamps)));
+    batch.Send(*subscription.callback, NextNumber(nextTransaction_), handle);
 }
 
 Variant SimulatedConnection::Invoke(std::string_view member, CallKind kind, std::span<Variant> args) {
