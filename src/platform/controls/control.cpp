@@ -124,6 +124,9 @@ Variant Control::Invoke(std::string_view member, CallKind kind, std::span<Varian
         return Property(
             kind, args, [&] { return Variant(tabIndex_); },
             [&](const Variant& v) { SetTabIndex(ToInt16(v)); });
+    if (is("TabStop"))
+        return Property(
+            kind, args, [&] { return Variant(tabStop_); }, [&](const Variant& v) { SetTabStop(ToBool(v)); });
     if (is("DataField"))
         return Property(
             kind, args, [&] { return Variant(dataField_); },

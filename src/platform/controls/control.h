@@ -18,8 +18,8 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/controls/widget.h"
 #include "core/api_begin.h"
+#include "platform/controls/widget.h"
 
 namespace trovane {
 
@@ -45,8 +45,13 @@ class Control : public Widget {
     virtual bool HasFont() const { return true; }
     int32_t FontCharset() const { return fontCharset_; }
     void SetFontCharset(int32_t charset);
+    // The place in the form's tab order: a control starts at its position of creation, so a form
+    // keeps its designed order unless it numbers its controls itself (Form::TabOrder).
     int16_t TabIndex() const { return tabIndex_; }
     void SetTabIndex(int16_t tabIndex) { Assign(tabIndex_, tabIndex, ControlProperty::TabIndex); }
+    // False: the Tab key passes the control by, though a click or code still gives it the focus.
+    bool TabStop() const { return tabStop_; }
+    void SetTabStop(bool tabStop) { Assign(tabStop_, tabStop, ControlProperty::TabStop); }
     // Free-text bindings: an edit form keeps an attribute name and the value shown in them.
     const std::string& DataField() const { return dataField_; }
     void SetDataField(std::string field) { Assign(dataField_, std::move(field), ControlProperty::DataField); }
@@ -95,6 +100,7 @@ class Control : public Widget {
     Frame* container_ = nullptr;
     int32_t fontCharset_ = 0;
     int16_t tabIndex_ = 0;
+    bool tabStop_ = true;
     std::string dataField_;
     std::string dataMember_;
 };

@@ -18,6 +18,7 @@ enum class ControlProperty {
     Geometry,  // Left, Top, Width or Height
     FontCharset,
     TabIndex,
+    TabStop,
     Container,
     Value,  // check box and option button
     Text,   // text box and combo box

@@ -1,6 +1,7 @@
 #include "platform/controls/form.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "core/conversions.h"
 #include "core/error.h"
@@ -36,6 +37,7 @@ void Form::Adopt(std::shared_ptr<Control> control, int16_t index) {
         throw Error(360, "Object already loaded: " + ElementName(control->Name(), index));
     control->form_ = this;
     control->index_ = index;
+    control->tabIndex_ = static_cast<int16_t>(std::min<size_t>(controls_.size(), INT16_MAX));
     controls_.push_back(control);
     onControlAdded.Emit(*control);
 }
@@ -73,6 +75,15 @@ std::vector<Control*> Form::ArrayElements(std::string_view name) const {
     std::sort(elements.begin(), elements.end(),
               [](const Control* a, const Control* b) { return a->Index() < b->Index(); });
     return elements;
+}
+
+std::vector<Control*> Form::TabOrder() const {
+    std::vector<Control*> order;
+    order.reserve(controls_.size());
+    for (const auto& control : controls_) order.push_back(control.get());
+    std::stable_sort(order.begin(), order.end(),
+                     [](const Control* a, const Control* b) { return a->TabIndex() < b->TabIndex(); });
+    return order;
 }
 
 Variant Form::ControlsObject() {

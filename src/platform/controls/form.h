@@ -16,8 +16,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/controls/control.h"
 #include "core/api_begin.h"
+#include "platform/controls/control.h"
 
 namespace trovane {
 
@@ -77,6 +77,10 @@ class Form : public Widget {
         if (T* found = FindAs<T>(name, index)) return *found;
         ThrowMissing(name, index);
     }
+    // The controls in the order the Tab key visits them: by TabIndex, equal indices in the order of
+    // creation. Whether a control takes the focus at all (enabled, visible, TabStop) is the front
+    // end's to check when the key is pressed, since that changes while the order stays.
+    std::vector<Control*> TabOrder() const;
     // The elements of a control array in index order.
     std::vector<Control*> ArrayElements(std::string_view name) const;
     // A collection object answering "Count" and "Item" (0-based position or name), for late binding.

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/conversions.h"
+#include "platform/controls/accessible_name.h"
 #include "platform/controls/controls.h"
 #include "platform/late_bound.h"
 #include "support/error_number.h"
@@ -153,6 +154,47 @@ TEST_F(FormTest, FocusAndSettersRaiseEventsOnlyForRealChanges) {
     EXPECT_EQ(ErrorNumberOf([&] { cancel.SetWidth(-1); }), 380);
     ok.SetEnabled(false);
     EXPECT_EQ(ErrorNumberOf([&] { ok.SetFocus(); }), 5);
+}
+
+// Controls start in the order of their creation; a form that numbers some of them moves those, and
+// equal numbers keep the order of creation. TabIndex and TabStop answer late-bound too.
+TEST_F(FormTest, TheTabOrderFollowsCreationUntilTheFormNumbersItsControls) {
+    auto names = [&] {
+        std::vector<std::string> order;
+        for (const Control* control : form->TabOrder()) order.push_back(control->Name());
+        return order;
+    };
+    EXPECT_EQ(names(),
+              (std::vector<std::string>{"lblInfo", "btnOK", "btnCancel", "chkCounterInUse", "Timer1"}));
+    EXPECT_EQ(form->Get<CheckBox>("chkCounterInUse").TabIndex(), 3);
+    auto& check = form->Get<CheckBox>("chkCounterInUse");
+    check.SetTabIndex(0);
+    const Variant cancel(form->Get<CommandButton>("btnCancel").shared_from_this());
+    EXPECT_EQ(names(),
+              (std::vector<std::string>{"lblInfo", "chkCounterInUse", "btnOK", "btnCancel", "Timer1"}));
+    PutProperty(cancel, "TabIndex", Variant(int16_t{0}));  // ties with two made before it
+    EXPECT_EQ(names(),
+              (std::vector<std::string>{"lblInfo", "btnCancel", "chkCounterInUse", "btnOK", "Timer1"}));
+    EXPECT_TRUE(ToBool(GetProperty(cancel, "TabStop")));
+    PutProperty(cancel, "TabStop", Variant(false));
+    EXPECT_FALSE(form->Get<CommandButton>("btnCancel").TabStop());
+}
+
+// What a screen reader announces: the caption without the access key's marker, else the label just
+// before the control in tab order, else the control's name.
+TEST_F(FormTest, AccessibleNamesComeFromCaptionsPrecedingLabelsOrNames) {
+    EXPECT_EQ(WithoutMnemonic("&OK"), "OK");
+    EXPECT_EQ(WithoutMnemonic("Save && &close"), "Save & close");
+    EXPECT_EQ(WithoutMnemonic("Trailing&"), "Trailing&");
+    form->Get<Label>("lblInfo").SetCaption("&Comment:");
+    auto& comment = form->Add<TextBox>("txtComment");
+    comment.SetTabIndex(0);  // right after the label, which is 0 too but was created first
+    auto& list = form->Add<ListView>("ListView1");
+    form->Get<CommandButton>("btnOK").SetCaption("&OK");
+    EXPECT_EQ(AccessibleName(form->Get<CommandButton>("btnOK")), "OK");
+    EXPECT_EQ(AccessibleName(comment), "Comment:");
+    EXPECT_EQ(AccessibleName(list), "ListView1") << "the control before it is no label";
+    EXPECT_EQ(AccessibleName(form->Get<CommandButton>("btnCancel")), "btnCancel");
 }
 
 }  // namespace
