@@ -78,7 +78,8 @@ QWidget* CommandButtonBinding::CreateView(QWidget* parent) {
     auto* button = new QPushButton(parent);
     const auto& model = static_cast<const CommandButton&>(Model());
     button->setDefault(model.IsDefault());
-    button->setAutoDefault(false);
+    // Enter presses the focused button, as the space bar does; elsewhere it reaches the form's default.
+    button->setAutoDefault(true);
     ForwardClicks(button);
     return button;
 }

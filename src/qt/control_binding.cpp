@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include "platform/controls/key_codes.h"
 #include "platform/trace.h"
 #include "qt/key_codes.h"
 #include "qt/text.h"
@@ -30,6 +31,7 @@ void ControlBinding::Attach(QWidget* parent) {
     view = CreateView(parent);
     if (view) {
         view->setObjectName(ToQString(control->Name()));
+        naturalFocus = view->focusPolicy();
         WatchInput(view);
     }
     Mirroring([this] { MirrorAll(); });
@@ -43,6 +45,7 @@ void ControlBinding::MirrorAll() {
     ShowCaption();
     MirrorOwn(ControlProperty::Enabled);
     MirrorOwn(ControlProperty::Visible);
+    MirrorOwn(ControlProperty::TabStop);
     MirrorGeometry();
 }
 
@@ -77,6 +80,11 @@ void ControlBinding::MirrorOwn(ControlProperty property) {
             break;
         case ControlProperty::Visible:
             view->setVisible(control->Visible());
+            break;
+        case ControlProperty::TabStop:
+            // Off the tab stops, a widget still takes the focus from a click.
+            if (naturalFocus & Qt::TabFocus)
+                view->setFocusPolicy(control->TabStop() ? naturalFocus : Qt::ClickFocus);
             break;
         case ControlProperty::Focus:
             if (control->HasFocus()) view->setFocus(Qt::OtherFocusReason);
@@ -130,7 +138,8 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event) {
 
 // Keys go to the model as KeyDown/KeyUp, and typed characters as KeyPress. A kind that handles a
 // key itself (the list's navigation, a text box's editing) takes it away from the widget; for the
-// other kinds the widget still sees it (a button's space bar).
+// other kinds the widget still sees it (a button's space bar). An Enter that a KeyPress handler
+// discarded goes no further either: the control has used it, so the form's default button must not.
 bool ControlBinding::HandleKey(QEvent* event) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const int16_t keyCode = ClassicKeyCode(key->key());
@@ -141,7 +150,8 @@ bool ControlBinding::HandleKey(QEvent* event) {
         if (keyCode != 0) control->PressKey(keyCode, ClassicShiftState(key->modifiers()));
         if (character != 0) typed = control->TypeCharacter(character);
     });
-    return takes || (character != 0 && typed == 0 && WidgetTypes());
+    const bool discarded = character != 0 && typed == 0;
+    return takes || (discarded && (WidgetTypes() || character == keys::kEnter));
 }
 
 void ControlBinding::HandleMouse(QEvent* event, bool down) {

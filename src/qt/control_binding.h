@@ -8,10 +8,10 @@
 // handler set back stays unchecked). While it copies model state onto the widget, the binding
 // ignores the widget's own change signals, so mirroring never reads as operator input.
 //
-// The base handles what every control has: caption, enabled, visible, geometry (twips scaled to the
-// screen), focus, keys and the mouse. Each kind adds its own properties in a subclass. A binding
-// keeps its control alive; its connections to the control's signals are scoped, so they end with
-// the binding.
+// The base handles what every control has: caption, enabled, visible, tab stop, geometry (twips
+// scaled to the screen), focus, keys and the mouse. Each kind adds its own properties in a subclass. A
+// binding keeps its control alive; its connections to the control's signals are scoped, so they end with the
+// binding.
 
 #include <exception>
 #include <memory>
@@ -20,8 +20,8 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "platform/controls/control.h"
 #include "core/api_begin.h"
+#include "platform/controls/control.h"
 
 namespace trovane::qt {
 
@@ -101,6 +101,7 @@ class ControlBinding : public QObject {
     std::shared_ptr<Control> control;
     TwipsScale scale;
     QPointer<QWidget> view;
+    Qt::FocusPolicy naturalFocus = Qt::NoFocus;  // the widget's own, restored when TabStop comes back
     ScopedConnection changedConnection;
     bool mirroring = false;
 };

@@ -6,6 +6,7 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 
+#include "platform/controls/accessible_name.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/frame.h"
 #include "platform/trace.h"
@@ -20,9 +21,15 @@ FormView::FormView(std::shared_ptr<Form> formIn, TwipsScale scaleIn, QWidget* pa
     setObjectName(ToQString(form->Name()));
     setWindowTitle(ToQString(form->Caption()));
     for (Control& control : form->Controls()) Bind(control);
+    ApplyTabOrder();
+    ShowAccessibleNames();
     ShowSize();
 
-    formConnections.push_back(form->onControlAdded.Connect([this](Control& control) { Bind(control); }));
+    formConnections.push_back(form->onControlAdded.Connect([this](Control& control) {
+        Bind(control);
+        ApplyTabOrder();
+        ShowAccessibleNames();
+    }));
     formConnections.push_back(form->onControlRemoved.Connect([this](Control& control) { Unbind(control); }));
     formConnections.push_back(
         form->onChanged.Connect([this](ControlProperty property) { OnFormChanged(property); }));
@@ -83,34 +90,81 @@ QWidget* FormView::AreaFor(const Control& control) const {
 }
 
 // Moving a control into a frame moves its widget there; a text box that becomes multi-line needs
-// the other kind of editor, so it is bound afresh.
+// the other kind of editor, so it is bound afresh (and its new widget takes the old one's place in
+// the tab order). A caption may name the control after it, so every name is shown again.
 void FormView::OnControlChanged(Control& control, ControlProperty property) {
     const auto found = bindings.find(&control);
     if (found == bindings.end()) return;
-    if (property == ControlProperty::Container) {
-        if (QWidget* widget = found->second.binding->View()) {
-            widget->setParent(AreaFor(control));
-            widget->setVisible(control.Visible());
+    switch (property) {
+        case ControlProperty::Container:
+            if (QWidget* widget = found->second.binding->View()) {
+                widget->setParent(AreaFor(control));
+                widget->setVisible(control.Visible());
+            }
+            found->second.binding->Reposition();
+            ApplyTabOrder();
+            break;
+        case ControlProperty::MultiLine: {
+            auto binding = MakeBinding(std::static_pointer_cast<Control>(control.shared_from_this()), scale);
+            binding->Attach(AreaFor(control));
+            found->second.binding = std::move(binding);
+            ApplyTabOrder();
+            ShowAccessibleNames();
+            break;
         }
-        found->second.binding->Reposition();
-    } else if (property == ControlProperty::MultiLine) {
-        auto binding = MakeBinding(std::static_pointer_cast<Control>(control.shared_from_this()), scale);
-        binding->Attach(AreaFor(control));
-        found->second.binding = std::move(binding);
+        case ControlProperty::TabIndex:
+            ApplyTabOrder();
+            ShowAccessibleNames();
+            break;
+        case ControlProperty::Caption:
+            ShowAccessibleNames();
+            break;
+        default:
+            break;
     }
 }
 
+// Every widget is in its window's focus chain, focusable or not; the view itself is where its
+// controls belong, so they follow the nearest focusable widget before it that is not its own.
+void FormView::ApplyTabOrder() {
+    std::vector<QWidget*> order;
+    for (const Control* control : form->TabOrder()) {
+        QWidget* widget = WidgetOf(*control);
+        if (widget && widget->focusPolicy() != Qt::NoFocus) order.push_back(widget);
+    }
+    if (order.empty()) return;
+    QWidget* anchor = nullptr;
+    for (QWidget* before = previousInFocusChain(); before && before != this;
+         before = before->previousInFocusChain()) {
+        if (!isAncestorOf(before) && before->focusPolicy() != Qt::NoFocus) {
+            anchor = before;
+            break;
+        }
+    }
+    if (anchor) QWidget::setTabOrder(anchor, order.front());
+    for (size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+void FormView::ShowAccessibleNames() {
+    for (const auto& [control, bound] : bindings)
+        if (QWidget* widget = bound.binding->View())
+            widget->setAccessibleName(ToQString(AccessibleName(*control)));
+}
+
+// Enter and Escape that reach the view were left by the focused control (a check box, a single-line
+// box): they press the form's default or cancel button. A form without one passes them on to the
+// window around it.
 void FormView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if ((enter || event->key() == Qt::Key_Escape) && event->modifiers() == Qt::NoModifier) {
-        PressButton(enter);
+    const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
+    if ((enter || event->key() == Qt::Key_Escape) && plain && PressButton(enter)) {
         event->accept();
         return;
     }
     QWidget::keyPressEvent(event);
 }
 
-void FormView::PressButton(bool defaultButton) {
+bool FormView::PressButton(bool defaultButton) {
     for (Control& control : form->Controls()) {
         auto* button = dynamic_cast<CommandButton*>(&control);
         if (button && (defaultButton ? button->IsDefault() : button->IsCancel())) {
@@ -119,9 +173,10 @@ void FormView::PressButton(bool defaultButton) {
             } catch (const std::exception& failure) {
                 DebugInfo("Qt front end: ", button->Name(), " input failed: ", failure.what());
             }
-            return;
+            return true;
         }
     }
+    return false;
 }
 
 void FormView::OnFormChanged(ControlProperty property) {

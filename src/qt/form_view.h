@@ -4,7 +4,9 @@
 // The view is a widget whose client area is the form: it makes a widget for every control the
 // form holds and for every control added later, puts controls placed in a frame inside that
 // frame's widget, and follows the form's caption (the window title), size (twips scaled to the
-// screen) and visibility. It lends the form its font for TextWidth, so column fitting measures
+// screen) and visibility. The Tab key visits the widgets in the form's tab order, every widget
+// carries its control's accessible name, and Enter and Escape press the form's default and cancel
+// buttons. It lends the form its font for TextWidth, so column fitting measures
 // what the operator sees, and remembers each text's width until the font changes. The view keeps the form
 // alive; its connections to the form's and the controls' signals are scoped, so they end with the view (or
 // with the binding of a control that is removed).
@@ -19,9 +21,9 @@
 
 #include <QWidget>
 
+#include "core/api_begin.h"
 #include "platform/controls/form.h"
 #include "qt/control_binding.h"
-#include "core/api_begin.h"
 
 namespace trovane::qt {
 
@@ -47,7 +49,11 @@ class FormView final : public QWidget {
     void OnControlChanged(Control& control, ControlProperty property);
     void OnFormChanged(ControlProperty property);
     void ShowSize();
-    void PressButton(bool defaultButton);
+    // False when the form has no such button.
+    bool PressButton(bool defaultButton);
+    // Chains the widgets in the form's tab order, right after the focusable widget before the view.
+    void ApplyTabOrder();
+    void ShowAccessibleNames();
     int32_t MeasureText(std::string_view text) const;
     void changeEvent(QEvent* event) override;
 

@@ -97,8 +97,10 @@ void TextBoxBinding::MirrorAll() {
 }
 
 // Every typed character and every editing key is the model's; Tab and Escape still move focus and
-// close dialogs as the widget's surroundings expect.
+// close dialogs as the widget's surroundings expect, and so does Enter in a single-line box (a
+// KeyPress handler that discards it keeps it, see HandleKey), which presses the default button.
 bool TextBoxBinding::TakesKey(int16_t keyCode, char32_t character) const {
+    if (character == keys::kEnter && !Box(Model()).MultiLine()) return false;
     if (character != 0 && character != keys::kEscape) return true;
     return keyCode == keys::kBackspace || keyCode == keys::kDelete ||
            (keyCode >= keys::kPageUp && keyCode <= keys::kDown);
