@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabWidget>
@@ -61,13 +62,14 @@ void DialogWindow::Start() {
     heading->setFont(bold);
     layout->addWidget(heading);
 
+    // Widgets made in the order the Tab key visits them: the area above the pages, the pages, Close.
     auto* top = new QVBoxLayout;
     layout->addLayout(top);
+    for (const SitedPanels::Sited& sited : host.Panels().Panels())
+        if (sited.site.page == kTopArea) AddPanelView(sited, *top);
     pages = new QTabWidget(this);
     pages->setObjectName("tabPages");
     layout->addWidget(pages);
-    for (const SitedPanels::Sited& sited : host.Panels().Panels())
-        if (sited.site.page == kTopArea) AddPanelView(sited, *top);
     for (const DialogPage& page : DialogPages()) AddPage(page);
 
     auto* buttons = new QHBoxLayout;
@@ -149,6 +151,17 @@ qt::FormView* DialogWindow::ViewOf(const std::string& formName) const {
     for (qt::FormView* view : panelViews)
         if (view->Model().Name() == formName) return view;
     return nullptr;
+}
+
+// The pages turn with Ctrl+Tab from inside them by themselves; from the area above them or the Close
+// button the key reaches the window, which hands it to the pages.
+void DialogWindow::keyPressEvent(QKeyEvent* event) {
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (pages && tab && (event->modifiers() & Qt::ControlModifier)) {
+        QCoreApplication::sendEvent(pages, event);
+        return;
+    }
+    QWidget::keyPressEvent(event);
 }
 
 void DialogWindow::moveEvent(QMoveEvent* event) {
