@@ -1,6 +1,7 @@
 # Debian packages: the runtime library, the -dev package (headers, static libraries, CMake package)
 # and the programs with their desktop entry. Built by scripts/package.sh.
-set(TROVANE_DEB_RUNTIME libtrovanecommon0)
+# Named after the shared library's soname (libtrovane_embed.so.0), as Debian names library packages.
+set(TROVANE_DEB_RUNTIME libtrovane-embed0)
 set(TROVANE_DEB_DEV libtrovanecommon-dev)
 set(TROVANE_DEB_PROGRAMS trovane-dialog)
 
