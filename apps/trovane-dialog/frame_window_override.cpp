@@ -19,7 +19,8 @@ bool NamesFrameWindowFile(const std::string& path) {
 
 FrameWindowOverride::FrameWindowOverride(std::shared_ptr<Files> filesIn, int32_t dialogTimeoutSeconds)
     : files(std::move(filesIn)),
-      frameWindowText("[CONTROL]\r\nDlgTimeOut=" + std::to_string(dialogTimeoutSeconds) + "\r\n") {}
+      frameWindowText("[CONTROL]\r\nDlgTimeOut=" + std::to_string(dialogTimeoutSeconds) + "\r\n") {
+}
 
 bool FrameWindowOverride::Exists(const std::string& path) {
     return NamesFrameWindowFile(path) || (files && files->Exists(path));
