@@ -18,6 +18,39 @@ PanelSite Titled(PanelSite site, int32_t titleText) {
     site.titleText = titleText;
     return site;
 }
+
+PanelSite AlarmSite(bool selectsBlockedSignal) {
+    return SiteOf<Alarms>(
+        kAlarmSite, "alarms",
+        [selectsBlockedSignal](Alarms& alarms, const SiteContext& context) {
+            alarms.CanSelectSingleBlocking = selectsBlockedSignal;
+            alarms.Activate(context.application, context.connection);
+        },
+        [](Alarms& alarms) { alarms.Deactivate(); }, [](Alarms& alarms) { alarms.RefreshAlarms(); });
+}
+
+PanelSite BlockingSite() {
+    return Titled(SiteOf<Blocking>(
+                      kBlockingSite, "alarms",
+                      [](Blocking& blocking, const SiteContext& context) {
+                          blocking.logicalName = context.object.logicalName;
+                          blocking.baseIndex = context.object.index;
+                          blocking.EnableSingleBlocking();
+                          blocking.Init();
+                      },
+                      nullptr, [](Blocking& blocking) { blocking.RefreshStates(); }),
+                  kBlockingText);
+}
+
+PanelSite IndicationSite() {
+    return SiteOf<IndicationBar>(
+        kIndicationSite, kTopArea,
+        [](IndicationBar& bar, const SiteContext& context) {
+            bar.Activate(context.application, context.object.logicalName,
+                         context.container.Settings().userName, context.connection);
+        },
+        [](IndicationBar& bar) { bar.Deactivate(); });
+}
 }  // namespace
 
 const std::vector<DialogPage>& DialogPages() {
@@ -45,39 +78,30 @@ std::string DialogPageNames() {
 
 // The alarm list comes first, above the blocking panel on its page; its selection drives the
 // blocking panel, through the container, from the first notification on. The indication bar stands
-// above the pages and writes comments under the operator's name.
+// above the pages and writes comments under the operator's name. Every other row is there only when
+// the object has what it shows (object_features.h).
 std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features) {
-    std::vector<PanelSite> sites = {
-        SiteOf<Alarms>(
-            kAlarmSite, "alarms",
-            [](Alarms& alarms, const SiteContext& context) {
-                alarms.CanSelectSingleBlocking = true;
-                alarms.Activate(context.application, context.connection);
-            },
-            [](Alarms& alarms) { alarms.Deactivate(); }, [](Alarms& alarms) { alarms.RefreshAlarms(); }),
-        Titled(SiteOf<Blocking>(
-                   kBlockingSite, "alarms",
-                   [](Blocking& blocking, const SiteContext& context) {
-                       blocking.logicalName = context.object.logicalName;
-                       blocking.baseIndex = context.object.index;
-                       blocking.EnableSingleBlocking();
-                       blocking.Init();
-                   },
-                   nullptr, [](Blocking& blocking) { blocking.RefreshStates(); }),
-               kBlockingText),
-        SiteOf<IndicationBar>(
-            kIndicationSite, kTopArea,
-            [](IndicationBar& bar, const SiteContext& context) {
-                bar.Activate(context.application, context.object.logicalName,
-                             context.container.Settings().userName, context.connection);
-            },
-            [](IndicationBar& bar) { bar.Deactivate(); }),
-    };
+    std::vector<PanelSite> sites;
+    if (features.alarmList) sites.push_back(AlarmSite(features.blocking));
+    if (features.blocking) sites.push_back(BlockingSite());
+    sites.push_back(IndicationSite());
     for (auto&& more : {OperationSites(features), CommunicationSites(features)})
         sites.insert(sites.end(), more.begin(), more.end());
-    sites.push_back(SubstitutionSite());
-    sites.push_back(TagoutSite());
+    if (features.substitution) sites.push_back(SubstitutionSite());
+    if (features.tagout) sites.push_back(TagoutSite());
     return sites;
+}
+
+std::vector<std::string> OfferedPages(const ObjectFeatures& features) {
+    const std::vector<PanelSite> sites = ControlDialogSites(features);
+    std::vector<std::string> offered;
+    for (const DialogPage& page : DialogPages())
+        for (const PanelSite& site : sites)
+            if (site.page == page.name) {
+                offered.push_back(page.name);
+                break;
+            }
+    return offered;
 }
 
 }  // namespace trovane::dialog

@@ -31,7 +31,10 @@ std::string DialogPageNames();
 // The area above the pages (the indication bar's place).
 inline constexpr const char* kTopArea = "";
 
-// The rows for the dialog's object: pages whose panels the object has nothing for are left out.
+// The rows for the dialog's object: panels the object has nothing for are left out, and with them
+// every page left empty.
 std::vector<PanelSite> ControlDialogSites(const ObjectFeatures& features);
+// The names of the pages those rows fill, in tab order: the tabs the dialog shows.
+std::vector<std::string> OfferedPages(const ObjectFeatures& features);
 
 }  // namespace trovane::dialog

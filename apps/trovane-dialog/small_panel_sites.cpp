@@ -10,9 +10,7 @@
 #include "opcounter/misc_functions.h"
 #include "operatorplace/operator_place.h"
 #include "server_requests.h"
-#include "sim/attribute_catalog.h"
 #include "sim/dial_up_lines.h"
-#include "sim/process_database.h"
 
 namespace trovane::dialog {
 
@@ -20,12 +18,6 @@ namespace {
 constexpr int32_t kControlLocationText = 578;
 constexpr int32_t kOperationCounterText = 200;
 constexpr int32_t kDialUpStationText = 426;
-
-bool HasAny(const sim::ProcessObject& object, std::initializer_list<const char*> attributes) {
-    for (const char* attribute : attributes)
-        if (object.Find(attribute)) return true;
-    return false;
-}
 
 PanelSite Titled(PanelSite site, int32_t titleText) {
     site.titleText = titleText;
@@ -158,17 +150,6 @@ PanelSite UpdateDataSite() {
         });
 }
 }  // namespace
-
-// The counter panel reads the object type of the name's main object and subscribes that type's
-// attributes; the page shows it only where the object has them.
-ObjectFeatures FeaturesOf(sim::ProcessDatabase& database, const ObjectIdentity& object) {
-    const sim::ProcessObject* found = database.FindObject(object.logicalName, object.index);
-    if (!found) return {};
-    const sim::ProcessObject* main = database.FindGroup(object.logicalName)->MainObject();
-    const bool doubleBinary = main && main->Type() == sim::kDoubleBinaryType;
-    return {HasAny(*found, {"ML", "DL", "SL", "LV"}), HasAny(*found, {doubleBinary ? "CV" : "AZ"}),
-            HasAny(*found, {"LS"})};
-}
 
 std::vector<PanelSite> OperationSites(const ObjectFeatures& features) {
     std::vector<PanelSite> sites;

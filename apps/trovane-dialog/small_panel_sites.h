@@ -11,10 +11,7 @@
 #include <vector>
 
 #include "common/panel_sites.h"
-
-namespace trovane::sim {
-class ProcessDatabase;
-}
+#include "object_features.h"
 
 namespace trovane::dialog {
 
@@ -22,14 +19,6 @@ inline constexpr const char* kOperatorPlaceSite = "OperatorPlace1";
 inline constexpr const char* kOperationCounterSite = "MiscFunctions1";
 inline constexpr const char* kDialUpSite = "DialUp1";
 inline constexpr const char* kUpdateDataSite = "UpdateData1";
-
-// What the dialog's object has, as far as these pages care.
-struct ObjectFeatures {
-    bool controlLocation = false;
-    bool operationCounter = false;
-    bool dialUpLine = false;
-};
-ObjectFeatures FeaturesOf(sim::ProcessDatabase& database, const ObjectIdentity& object);
 
 std::vector<PanelSite> OperationSites(const ObjectFeatures& features);
 std::vector<PanelSite> CommunicationSites(const ObjectFeatures& features);
