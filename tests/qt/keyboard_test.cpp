@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -18,6 +19,9 @@
 #include "dialog_window.h"
 #include "indication/indication_bar.h"
 #include "support/qt_application.h"
+#include "tagout/tagout.h"
+#include "tagout/tagout_edit_dialog.h"
+#include "tagout_site.h"
 
 namespace trovane::dialog {
 namespace {
@@ -63,6 +67,27 @@ class KeyboardTest : public ::testing::Test {
     qt::FormView* CommentWindow() const {
         const ObjectCommentDialog* dialog = Bar().CommentDialog();
         return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
+    }
+    // Tab until `reached` holds (within one round); the names passed on the way.
+    template <typename Reached>
+    std::vector<std::string> TabUntil(Reached reached) {
+        std::vector<std::string> passed;
+        for (int i = 0; i < 60 && !reached(); ++i) {
+            Press(Qt::Key_Tab);
+            passed.push_back(FocusedName());
+        }
+        EXPECT_TRUE(reached());
+        return passed;
+    }
+    qt::FormView* TagoutEditWindow() const {
+        const TagoutEditDialog* dialog = host->Panels().FindAs<Tagout>(kTagoutSite)->EditDialog();
+        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
+    }
+    // The edit dialog's widget of the attribute `name`.
+    QWidget* TagoutField(const std::string& name) const {
+        for (const Control& control : host->Panels().FindAs<Tagout>(kTagoutSite)->EditDialog()->Controls())
+            if (control.DataField() == name) return TagoutEditWindow()->WidgetOf(control);
+        return nullptr;
     }
     int32_t ServerFlag(const char* attribute) {
         return ToInt32(host->Server().Database().Read({"ABC", 10, attribute}));
@@ -129,6 +154,69 @@ TEST_F(KeyboardTest, TheCommentDialogIsWrittenWithEnterAndCancelledWithEscape) {
     Press(Qt::Key_Escape);
     EXPECT_EQ(CommentWindow(), nullptr);
     EXPECT_EQ(ServerComment(), written);
+}
+
+// The tagout edit dialog opens from the keyboard with the focus on its tab bar; Tab visits the shown
+// tab's fields in the order they were laid out, then OK and Cancel. The comment on the second tab is
+// reached through the tab bar's arrow keys, and Enter in it breaks the line instead of pressing OK;
+// Escape cancels and nothing is added.
+TEST_F(KeyboardTest, TheTagoutEditDialogIsWalkedWithTabAndTheCommentTakesLineBreaks) {
+    window->ShowPage(kTagoutPage);
+    window->Settle();
+    TabTo("btnAdd");
+    Press(Qt::Key_Space);
+    ASSERT_NE(TagoutEditWindow(), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(TagoutEditWindow()));
+    QWidget* tabBar = Focused();
+    ASSERT_NE(tabBar, nullptr);
+    EXPECT_TRUE(TagoutEditWindow()->WidgetOf("TabStrip1")->isAncestorOf(tabBar));
+
+    std::vector<QWidget*> designed;
+    const TagoutEditDialog& dialog = *host->Panels().FindAs<Tagout>(kTagoutSite)->EditDialog();
+    for (const Control& control : dialog.Controls()) {
+        QWidget* widget = TagoutEditWindow()->WidgetOf(control);
+        if (!control.DataField().empty() && widget->isVisible() && widget->isEnabled())
+            designed.push_back(widget);
+    }
+    ASSERT_GE(designed.size(), 3u);
+    designed.push_back(TagoutEditWindow()->WidgetOf("btnOK"));
+    designed.push_back(TagoutEditWindow()->WidgetOf("btnCancel"));
+    designed.push_back(tabBar);
+    std::vector<QWidget*> walked;
+    for (size_t i = 0; i < designed.size(); ++i) {
+        Press(Qt::Key_Tab);
+        walked.push_back(Focused());
+    }
+    EXPECT_EQ(walked, designed);
+
+    Press(Qt::Key_Right);  // the tab bar's arrow turns to the second tab
+    QWidget* comment = TagoutField("COMMENT");
+    ASSERT_NE(comment, nullptr);
+    ASSERT_TRUE(comment->isVisible());
+    TabUntil([&] { return Focused() == comment; });
+    Type("Line one");
+    Press(Qt::Key_Return);
+    Type("line two");
+    ASSERT_NE(TagoutEditWindow(), nullptr) << "Enter in the comment did not press OK";
+    EXPECT_EQ(qobject_cast<QPlainTextEdit*>(comment)->toPlainText(), "Line one\nline two");
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(TagoutEditWindow(), nullptr);
+    EXPECT_EQ(host->Server().Database().FindObject("ABC", 10)->tagouts.active.size(), 1u);
+}
+
+// The error dialog's one button is both default and cancel: Enter and Escape each close it.
+TEST_F(KeyboardTest, TheErrorDialogClosesWithEnterOrEscape) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
+                   {Variant("Command failed")});
+        qt::FormView* error = window->ErrorDialogView();
+        ASSERT_NE(error, nullptr);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(error));
+        Press(key);
+        EXPECT_FALSE(error->isVisible()) << key;
+        window->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
 }
 
 // Ctrl+Tab and Ctrl+Shift+Tab turn the pages from wherever the focus is on a page (a list view
