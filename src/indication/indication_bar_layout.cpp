@@ -13,7 +13,7 @@ namespace {
 constexpr int32_t kMargin = 60;
 constexpr int32_t kGap = 90;
 constexpr int32_t kBarWidth = 6600;
-constexpr int32_t kButtonWidth = 1335;
+constexpr int32_t kButtonWidth = 1560;  // "Show comment" and "Add comment" with room to spare
 constexpr int32_t kButtonHeight = 375;
 constexpr int32_t kLabelHeight = 435;
 constexpr int32_t kBarHeight = kLabelHeight + 2 * kMargin;
