@@ -4,14 +4,17 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-bash scripts/deps.sh
-cmake -S . -B build/run -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTROVANE_BUILD_TESTS=OFF -DTROVANE_BUILD_BENCH=OFF > /dev/null
-cmake --build build/run -j "$(nproc)" --target trovane-dialog trovane-vexl
-
-dialog=build/run/apps/trovane-dialog/trovane-dialog
-if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [[ " $* " == *" --screenshot "* ]]; then
+dialog=$(bash scripts/build_dialog.sh)
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || [[ " $* " == *" --screenshot "* ]] ||
+    [[ " $* " == *" --list-objects "* ]] || [[ " $* " == *" --help "* ]]; then
     exec "$dialog" "$@"
 fi
-# No display: render the dialog off-screen and say where the picture is.
+# No display: without arguments, the gallery of every kind of object and dialog; with them, a
+# picture of that dialog. Either way, say where it went.
+if [ $# -eq 0 ]; then
+    TROVANE_DIALOG=$dialog bash scripts/gallery.sh build/run/gallery
+    echo "No display: wrote the gallery of the control dialog to $(pwd)/build/run/gallery"
+    exit 0
+fi
 "$dialog" --screenshot trovane-dialog.png "$@"
 echo "No display: wrote a screenshot of the control dialog to $(pwd)/trovane-dialog.png"
