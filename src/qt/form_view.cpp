@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QFontMetrics>
 #include <QKeyEvent>
+#include <QLabel>
 
 #include "platform/controls/accessible_name.h"
 #include "platform/controls/command_button.h"
@@ -145,10 +146,23 @@ void FormView::ApplyTabOrder() {
     for (size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
+// A label with an access key ("&Name") hands the focus to the control after it in tab order, as
+// the classic label does; Qt shows the key underlined only on a label that has such a buddy.
 void FormView::ShowAccessibleNames() {
     for (const auto& [control, bound] : bindings)
         if (QWidget* widget = bound.binding->View())
             widget->setAccessibleName(ToQString(AccessibleName(*control)));
+    QLabel* label = nullptr;
+    for (const Control* control : form->TabOrder()) {
+        QWidget* widget = WidgetOf(*control);
+        if (!widget) continue;
+        if (label && (widget->focusPolicy() & Qt::TabFocus)) {
+            label->setBuddy(widget);
+            label = nullptr;
+        }
+        if (control->TypeName() == "Label" && WithoutMnemonic(control->Caption()) != control->Caption())
+            label = qobject_cast<QLabel*>(widget);
+    }
 }
 
 // Enter and Escape that reach the view were left by the focused control (a check box, a single-line

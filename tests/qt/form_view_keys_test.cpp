@@ -155,7 +155,8 @@ TEST_F(FormViewKeysTest, EnterAndEscapePressTheDefaultAndCancelButtonsUnlessTheC
 }
 
 // Captions name their widgets without the access key's marker, a box is named by the label before it
-// and a list by its own name; names follow the captions; Alt with the access key presses the button.
+// and a list by its own name; names follow the captions; Alt with the access key presses the button,
+// and a label's access key moves to the control after it.
 TEST_F(FormViewKeysTest, WidgetsCarryAccessibleNamesAndAccessKeysPressTheirButtons) {
     auto& label = Add<Label>("lblName", 100);
     label.SetCaption("Object &name");
@@ -178,6 +179,10 @@ TEST_F(FormViewKeysTest, WidgetsCarryAccessibleNamesAndAccessKeysPressTheirButto
     Focus("txtName");
     Press(Qt::Key_A, Qt::AltModifier);
     QTRY_COMPARE(applied, 1);
+    label.SetCaption("Object &name");
+    Focus("btnApply");
+    Press(Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(Focused(), "txtName") << "the label's access key goes to the box after it";
 }
 
 }  // namespace
