@@ -154,10 +154,11 @@ qt::FormView* DialogWindow::ViewOf(const std::string& formName) const {
 }
 
 // The pages turn with Ctrl+Tab from inside them by themselves; from the area above them or the Close
-// button the key reaches the window, which hands it to the pages.
+// button the key reaches the window, which hands it to the pages. With a single page they would leave
+// it and it would come back here.
 void DialogWindow::keyPressEvent(QKeyEvent* event) {
     const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
-    if (pages && tab && (event->modifiers() & Qt::ControlModifier)) {
+    if (pages && pages->count() > 1 && tab && (event->modifiers() & Qt::ControlModifier)) {
         QCoreApplication::sendEvent(pages, event);
         return;
     }
