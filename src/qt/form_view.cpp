@@ -3,6 +3,7 @@
 #include <exception>
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QLabel>
@@ -10,6 +11,7 @@
 #include "platform/controls/accessible_name.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/frame.h"
+#include "platform/controls/tab_strip.h"
 #include "platform/trace.h"
 #include "qt/binding_factory.h"
 #include "qt/text.h"
@@ -169,6 +171,8 @@ void FormView::ShowAccessibleNames() {
 // box): they press the form's default or cancel button. A form without one passes them on to the
 // window around it.
 void FormView::keyPressEvent(QKeyEvent* event) {
+    const bool tab = event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab;
+    if (tab && (event->modifiers() & Qt::ControlModifier) && TurnTabStrip(event)) return;
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool plain = event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier;
     if ((enter || event->key() == Qt::Key_Escape) && plain && PressButton(enter)) {
@@ -176,6 +180,20 @@ void FormView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QWidget::keyPressEvent(event);
+}
+
+// The classic tab strip turns with Ctrl+Tab wherever the focus is on its form, though the controls
+// of its tabs are not inside it: the key goes to the strip's widget, which turns when it has more
+// than one tab (with one it would pass the key back here).
+bool FormView::TurnTabStrip(QKeyEvent* event) {
+    for (const Control& control : form->Controls()) {
+        const auto* strip = dynamic_cast<const TabStrip*>(&control);
+        QWidget* widget = strip ? WidgetOf(*strip) : nullptr;
+        if (!widget || strip->TabCount() < 2 || !strip->AcceptsInput() || !widget->isVisible()) continue;
+        QCoreApplication::sendEvent(widget, event);
+        return true;
+    }
+    return false;
 }
 
 bool FormView::PressButton(bool defaultButton) {

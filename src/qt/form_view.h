@@ -51,6 +51,8 @@ class FormView final : public QWidget {
     void ShowSize();
     // False when the form has no such button.
     bool PressButton(bool defaultButton);
+    // False when the form has no tab strip to turn.
+    bool TurnTabStrip(QKeyEvent* event);
     // Chains the widgets in the form's tab order, right after the focusable widget before the view.
     void ApplyTabOrder();
     void ShowAccessibleNames();

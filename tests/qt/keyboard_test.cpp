@@ -157,8 +157,9 @@ TEST_F(KeyboardTest, TheCommentDialogIsWrittenWithEnterAndCancelledWithEscape) {
 }
 
 // The tagout edit dialog opens from the keyboard with the focus on its tab bar; Tab visits the shown
-// tab's fields in the order they were laid out, then OK and Cancel. The comment on the second tab is
-// reached through the tab bar's arrow keys, and Enter in it breaks the line instead of pressing OK;
+// tab's fields in the order they were laid out, then OK and Cancel. Ctrl+Tab from a field and the tab
+// bar's arrow keys turn to the second tab, with the comment, where Enter breaks the line instead of
+// pressing OK;
 // Escape cancels and nothing is added.
 TEST_F(KeyboardTest, TheTagoutEditDialogIsWalkedWithTabAndTheCommentTakesLineBreaks) {
     window->ShowPage(kTagoutPage);
@@ -189,9 +190,18 @@ TEST_F(KeyboardTest, TheTagoutEditDialogIsWalkedWithTabAndTheCommentTakesLineBre
     }
     EXPECT_EQ(walked, designed);
 
-    Press(Qt::Key_Right);  // the tab bar's arrow turns to the second tab
+    Press(Qt::Key_Tab);
+    QWidget* firstField = designed.front();
+    ASSERT_EQ(Focused(), firstField);
+    Press(Qt::Key_Tab, Qt::ControlModifier);  // from a field, which is not inside the strip's widget
     QWidget* comment = TagoutField("COMMENT");
     ASSERT_NE(comment, nullptr);
+    ASSERT_TRUE(comment->isVisible());
+    EXPECT_FALSE(firstField->isVisible());
+    Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(firstField->isVisible());
+    TabUntil([&] { return Focused() == tabBar; });
+    Press(Qt::Key_Right);  // the tab bar's arrow turns to the second tab too
     ASSERT_TRUE(comment->isVisible());
     TabUntil([&] { return Focused() == comment; });
     Type("Line one");
