@@ -184,12 +184,12 @@ void FormView::keyPressEvent(QKeyEvent* event) {
 
 // The classic tab strip turns with Ctrl+Tab wherever the focus is on its form, though the controls
 // of its tabs are not inside it: the key goes to the strip's widget, which turns when it has more
-// than one tab (with one it would pass the key back here).
+// than one tab and takes keys (else it would pass the key back here).
 bool FormView::TurnTabStrip(QKeyEvent* event) {
     for (const Control& control : form->Controls()) {
         const auto* strip = dynamic_cast<const TabStrip*>(&control);
         QWidget* widget = strip ? WidgetOf(*strip) : nullptr;
-        if (!widget || strip->TabCount() < 2 || !strip->AcceptsInput() || !widget->isVisible()) continue;
+        if (!widget || strip->TabCount() < 2 || !widget->isEnabled() || !widget->isVisible()) continue;
         QCoreApplication::sendEvent(widget, event);
         return true;
     }
