@@ -1,32 +1,17 @@
 #include "dialog_host.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 
 #include "core/conversions.h"
+#include "scenario_objects.h"
 #include "sim/dial_up_lines.h"
-#include "sim/scenario.h"
 
 namespace trovane::dialog {
 
-namespace {
-std::unique_ptr<sim::ProcessDatabase> LoadDatabase(const DialogOptions& options) {
-    if (!options.scenarioFile) return sim::MakeDemoDatabase();
-    std::ifstream file(*options.scenarioFile, std::ios::binary);
-    if (!file) throw std::runtime_error("cannot read the scenario " + *options.scenarioFile);
-    std::ostringstream text;
-    text << file.rdbuf();
-    auto database = std::make_unique<sim::ProcessDatabase>();
-    sim::LoadScenario(text.str(), *database);
-    return database;
-}
-}  // namespace
-
 DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platformIn)
     : options(optionsIn), platform(std::move(platformIn)) {
-    auto database = LoadDatabase(options);
+    auto database = LoadDialogDatabase(options);
     if (!options.installationRoot.empty()) database->App().systemRoot = options.installationRoot;
     auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
     application = server->Database().App().number;

@@ -61,6 +61,8 @@ ParsedOptions ParseDialogOptions(std::span<const char* const> arguments) {
         const std::string_view argument = arguments[i];
         if (argument == "--trace") {
             parsed.options.trace = true;
+        } else if (argument == "--list-objects") {
+            parsed.options.listObjects = true;
         } else if (argument == "--help" || argument == "-h") {
             parsed.options.help = true;
         } else if (argument.starts_with("--") && argument.find('=') != std::string_view::npos) {
@@ -83,8 +85,10 @@ std::string DialogUsage() {
            "                      [--language CODE] [--rights all|none|LIST] [--trace]\n"
            "                      [--screenshot FILE.png] [--page NAME] [--screenshot-dialog BUTTON]\n"
            "                      [--server mqtt://HOST:PORT]\n"
+           "       trovane-dialog --list-objects [--scenario FILE]\n"
            "The control dialog of one process object (default ABC 10) on the simulated server, in-process\n"
-           "or, with --server, trovane-server through that broker.\n"
+           "or, with --server, trovane-server through that broker. --list-objects prints the scenario's\n"
+           "objects (name, index, text and the pages the dialog offers for each) and exits.\n"
            "Rights LIST: comma-separated, of " +
            std::string(kRightNames) + ".\n";
 }

@@ -12,6 +12,7 @@
 //   --server URL              work on trovane-server through the broker (mqtt://HOST:PORT)
 //   --screenshot-dialog NAME  with --screenshot: press the shown page's button NAME and picture
 //                             the dialog it opens instead of the control dialog
+//   --list-objects            print the scenario's objects and the pages each offers, then exit
 //   --help
 
 #include <cstdint>
@@ -37,6 +38,7 @@ struct DialogOptions {
     std::optional<std::string> serverUrl;
     std::optional<std::string> screenshotDialogButton;
     bool help = false;
+    bool listObjects = false;
     // Not from the command line: where the in-process server is installed (its icon directories);
     // empty keeps the scenario's own root.
     std::string installationRoot;

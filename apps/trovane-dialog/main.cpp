@@ -14,6 +14,7 @@
 #include "platform/system_locale.h"
 #include "platform/trace.h"
 #include "qt/qt_platform.h"
+#include "scenario_objects.h"
 #include "screenshot.h"
 
 namespace {
@@ -81,6 +82,24 @@ int main(int argc, char** argv) {
         SetTraceSink(MakeFileTraceSink("stderr"));
     else if (auto sink = TraceSinkFromEnvironment())
         SetTraceSink(std::move(sink));
+    // The scenario is read before Qt starts: listing it needs no display, and a dialog for an object
+    // the scenario lacks would be an empty window.
+    try {
+        const auto database = dialog::LoadDialogDatabase(parsed.options);
+        if (parsed.options.listObjects) {
+            std::cout << dialog::ObjectListing(*database);
+            return 0;
+        }
+        const std::string missing =
+            dialog::MissingObjectError(*database, parsed.options.objectName, parsed.options.index);
+        if (!missing.empty()) {
+            std::cerr << "trovane-dialog: " << missing << '\n';
+            return 2;
+        }
+    } catch (const std::exception& failure) {
+        std::cerr << "trovane-dialog: " << failure.what() << '\n';
+        return 1;
+    }
     ChooseOffscreenWhenThereIsNoDisplay(parsed.options.screenshotFile.has_value());
     try {
         return Run(argc, argv, parsed.options);

@@ -42,5 +42,17 @@ TEST(DialogOptions, RightsGrantOnlyWhatTheyNameAndBadInputIsAClearError) {
         EXPECT_NE(Parse(arguments).error.find(message), std::string::npos) << message;
 }
 
+// --list-objects takes no value, so it sits anywhere among the others; the usage names it.
+TEST(DialogOptions, ListObjectsIsAFlagBesideTheScenario) {
+    const ParsedOptions parsed = Parse({"--list-objects", "--scenario", "bay.json"});
+    ASSERT_TRUE(parsed.error.empty()) << parsed.error;
+    EXPECT_TRUE(parsed.options.listObjects);
+    EXPECT_EQ(*parsed.options.scenarioFile, "bay.json");
+    EXPECT_TRUE(Parse({"--scenario", "bay.json", "--list-objects"}).options.listObjects);
+    EXPECT_FALSE(Parse({"--object", "DEF"}).options.listObjects);
+    EXPECT_NE(Parse({"--list-objects=yes"}).error.find("unknown option"), std::string::npos);
+    EXPECT_NE(DialogUsage().find("--list-objects"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace trovane::dialog
