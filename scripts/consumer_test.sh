@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs the two consumer projects: one against an installation of the library in a
-# temporary prefix (find_package), one that pulls the source tree in (add_subdirectory).
+# temporary prefix (find_package), one that pulls the source tree in (add_subdirectory) as shared
+# libraries, so that a host sees only what the public headers export.
 #
 #   bash scripts/consumer_test.sh [BUILD_DIR]
 #
@@ -23,10 +24,12 @@ cmake -S tests/consumers/find_package -B "$work/find_package" -DCMAKE_PREFIX_PAT
 cmake --build "$work/find_package" -j "$jobs" > /dev/null
 "$work/find_package/consumer"
 
-echo "== Consumer with add_subdirectory"
-cmake -S tests/consumers/add_subdirectory -B "$work/add_subdirectory" -DTROVANE_SOURCE_DIR="$PWD" > /dev/null
+echo "== Consumer with add_subdirectory, shared libraries"
+cmake -S tests/consumers/add_subdirectory -B "$work/add_subdirectory" -DTROVANE_SOURCE_DIR="$PWD" \
+    -DBUILD_SHARED_LIBS=ON > /dev/null
 cmake --build "$work/add_subdirectory" -j "$jobs" > /dev/null
 "$work/add_subdirectory/consumer"
+ldd "$work/add_subdirectory/consumer" | grep -q 'libtrovane_blocking.so' || { echo "consumer: not linked to the shared libraries" >&2; exit 1; }
 
 echo "== An unknown component is refused"
 mkdir -p "$work/unknown"

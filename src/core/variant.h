@@ -199,6 +199,10 @@ Variant MakeVariantArray(std::vector<Variant> values, int32_t lowerBound = 0);
 Variant MakeStringArray(std::vector<std::string> values, int32_t lowerBound = 0);
 Variant MakeLongArray(std::vector<int32_t> values, int32_t lowerBound = 0);
 
+// Declared again at namespace scope: a friend declaration alone does not take the exported
+// visibility of the block it stands in.
+bool operator==(const Variant& a, const Variant& b);
+
 }  // namespace trovane
 
 #include "core/api_end.h"
