@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "core/conversions.h"
+#include "frame_window_override.h"
 #include "scenario_objects.h"
 #include "sim/dial_up_lines.h"
 
@@ -11,6 +12,8 @@ namespace trovane::dialog {
 
 DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platformIn)
     : options(optionsIn), platform(std::move(platformIn)) {
+    if (options.dialogTimeout)
+        platform.files = std::make_shared<FrameWindowOverride>(platform.files, *options.dialogTimeout);
     auto database = LoadDialogDatabase(options);
     if (!options.installationRoot.empty()) database->App().systemRoot = options.installationRoot;
     auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
@@ -73,6 +76,8 @@ Variant DialogHost::StartInformation(int32_t frameHandle) {
     functions->AddListAttribute(info, "LANGUAGE", Variant(options.language));
     functions->AddListAttribute(info, "USER_NAME", Variant(options.userName));
     functions->AddListAttribute(info, "USED_OPC_SERVER", ServerConnection());
+    // The colour scheme and the operator's own colours come from the application's folders.
+    functions->AddListAttribute(info, "USE_CST", Variant(int16_t{1}));
     functions->AddListAttribute(info, "SET_OWNER", Variant(true));
     functions->AddListAttribute(info, "FRAME_HANDLE", Variant(frameHandle));
     return info;
@@ -89,10 +94,16 @@ std::string DialogHost::ObjectCaption() const {
     return caption;
 }
 
+// Beside the executable in a build tree; in an installation the programs live under the library
+// directory and the root under share/trovane.
 std::string LocalServerRoot(const std::string& executablePath) {
-    std::error_code ignored;
-    const auto root = std::filesystem::path(executablePath).parent_path() / "server-root";
-    return std::filesystem::is_directory(root, ignored) ? root.string() : std::string();
+    const auto directory = std::filesystem::path(executablePath).parent_path();
+    for (const auto& root : {directory / "server-root", directory / TROVANE_INSTALLED_SERVER_ROOT}) {
+        std::error_code ignored;
+        if (std::filesystem::is_directory(root, ignored))
+            return std::filesystem::weakly_canonical(root, ignored).string();
+    }
+    return {};
 }
 
 }  // namespace trovane::dialog

@@ -66,8 +66,8 @@ class DialogHost {
     bool started = false;
 };
 
-// The directory next to the executable that the demo server uses as its installation root, where
-// the library's default icons are installed; empty when there is none.
+// The directory the demo server uses as its installation root: the library's default icons and the
+// demo application's configuration (FrameWindow.ini, the colour scheme); empty when there is none.
 std::string LocalServerRoot(const std::string& executablePath);
 
 }  // namespace trovane::dialog

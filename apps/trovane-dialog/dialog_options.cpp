@@ -45,6 +45,18 @@ std::string ApplyValue(DialogOptions& options, std::string_view name, const std:
         net::BrokerOptions broker;
         if (auto error = net::ParseBrokerUrl(value, broker); !error.empty()) return "--server: " + error;
         options.serverUrl = value;
+    } else if (name == "--select-row") {
+        const auto row = ParseIndex(value);
+        if (!row || *row < 1) return "--select-row needs a row number from 1, not \"" + value + "\"";
+        options.selectRow = *row;
+    } else if (name == "--screenshot-error") {
+        if (value.empty()) return "--screenshot-error needs the text of the error";
+        options.screenshotError = value;
+    } else if (name == "--dialog-timeout") {
+        const auto seconds = ParseIndex(value);
+        if (!seconds || *seconds < 1)
+            return "--dialog-timeout needs a number of seconds, not \"" + value + "\"";
+        options.dialogTimeout = *seconds;
     } else if (name == "--page") {
         if (!FindDialogPage(value)) return "--page takes one of: " + DialogPageNames();
         options.page = value;
@@ -84,7 +96,8 @@ std::string DialogUsage() {
     return "Usage: trovane-dialog [--object NAME] [--index N] [--scenario FILE] [--user NAME]\n"
            "                      [--language CODE] [--rights all|none|LIST] [--trace]\n"
            "                      [--screenshot FILE.png] [--page NAME] [--screenshot-dialog BUTTON]\n"
-           "                      [--server mqtt://HOST:PORT]\n"
+           "                      [--select-row N] [--screenshot-error TEXT]\n"
+           "                      [--server mqtt://HOST:PORT] [--dialog-timeout SECONDS]\n"
            "       trovane-dialog --list-objects [--scenario FILE]\n"
            "The control dialog of one process object (default ABC 10) on the simulated server, in-process\n"
            "or, with --server, trovane-server through that broker. --list-objects prints the scenario's\n"

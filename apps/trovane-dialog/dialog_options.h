@@ -12,6 +12,12 @@
 //   --server URL              work on trovane-server through the broker (mqtt://HOST:PORT)
 //   --screenshot-dialog NAME  with --screenshot: press the shown page's button NAME and picture
 //                             the dialog it opens instead of the control dialog
+//   --select-row N            click row N (from 1) of the shown page's first list before the
+//                             --screenshot-dialog button is pressed
+//   --screenshot-error TEXT   with --screenshot: show TEXT in the error dialog, as a failed command
+//                             would, and picture that dialog
+//   --dialog-timeout SECONDS  the time after which the error dialog closes by itself, instead of the
+//                             application's FrameWindow.ini (to show it in a demo)
 //   --list-objects            print the scenario's objects and the pages each offers, then exit
 //   --help
 
@@ -37,6 +43,9 @@ struct DialogOptions {
     // The broker of a networked server; without it the server runs in-process.
     std::optional<std::string> serverUrl;
     std::optional<std::string> screenshotDialogButton;
+    std::optional<std::string> screenshotError;
+    std::optional<int32_t> selectRow;
+    std::optional<int32_t> dialogTimeout;
     bool help = false;
     bool listObjects = false;
     // Not from the command line: where the in-process server is installed (its icon directories);

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 
+#include "core/object.h"
 #include "dialog_host.h"
 #include "dialog_options.h"
 #include "dialog_window.h"
@@ -48,6 +49,11 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
 
     if (!options.screenshotFile) return QApplication::exec();
     QWidget* pictured = &window;
+    if (options.selectRow && !dialog::ClickListRow(window, *options.selectRow - 1)) {
+        std::cerr << "trovane-dialog: the page shows no list with row " << *options.selectRow << '\n';
+        return 2;
+    }
+    window.Settle();
     if (options.screenshotDialogButton) {
         pictured = dialog::OpenDialogWith(window, *options.screenshotDialogButton);
         if (!pictured) {
@@ -55,6 +61,17 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
             return 2;
         }
         window.Settle();
+    }
+    if (options.screenshotError) {
+        // Through the container's member, as a panel reports a failed command.
+        CallMethod(Variant(ObjectRef(host.Container().shared_from_this())), "ShowError",
+                   {Variant(*options.screenshotError)});
+        window.Settle();
+        pictured = window.ErrorDialogView();
+        if (!pictured) {
+            std::cerr << "trovane-dialog: the error dialog did not open\n";
+            return 2;
+        }
     }
     if (!dialog::WriteScreenshot(*pictured, *options.screenshotFile)) {
         std::cerr << "trovane-dialog: cannot write " << *options.screenshotFile << '\n';

@@ -15,4 +15,7 @@ bool WriteScreenshot(QWidget& window, const std::string& fileName);
 // newest other visible top-level window), or nullptr when there is no such button or no new window.
 QWidget* OpenDialogWith(QWidget& window, const std::string& buttonName);
 
+// Clicks row `row` (from 0) of the first visible list in `window`; false when there is none that long.
+bool ClickListRow(QWidget& window, int row);
+
 }  // namespace trovane::dialog

@@ -20,8 +20,7 @@ using trovane::testing::ErrorNumberOf;
 
 class DemoHostTest : public ::testing::Test {
   protected:
-    void Open(UserRights rights = UserRights::All()) {
-        DialogOptions options;
+    void Open(UserRights rights = UserRights::All(), DialogOptions options = {}) {
         options.rights = rights;
         options.userName = "anna";
         host = std::make_unique<DialogHost>(options, PlatformServices::Defaults());
@@ -98,6 +97,24 @@ TEST_F(DemoHostTest, HostActionsServeTheAlarmListAndRetargetTheBlockingPanelOnce
     EXPECT_TRUE(trace.Contains("Host: ShowDialUpOptionsDialog requested"));
     EXPECT_FALSE(ToBool(CallMethod(Container(), "IsSelectedOnOtherMonitor")));
     EXPECT_EQ(GetProperty(Container(), "Width"), Variant(int32_t{0})) << "no window, no position";
+}
+
+// The host hands over the whole start information: the colour scheme is configured from the demo
+// application's folder, whose FrameWindow.ini gives the dialog time-out, unless the command line
+// overrides it.
+TEST_F(DemoHostTest, StartInformationConfiguresTheSchemeAndTheTimeOutFromTheApplication) {
+    DialogOptions options;
+    options.installationRoot = TROVANE_DEMO_SERVER_ROOT;
+    Open(UserRights::All(), options);
+    const Variant info = host->Functions().GetStartInfo();
+    EXPECT_EQ(ToInt32(host->Functions().GetListItem(info, "USE_CST")), 1);
+    EXPECT_EQ(ToInt32(host->Functions().GetListItem(info, "APP_NR")), 1);
+    EXPECT_EQ(host->Functions().GetDialogTimeout(), 60);
+    EXPECT_EQ(host->Functions().GetColorByIndex(12), 0x2020E0) << "the application's alarm red";
+
+    options.dialogTimeout = 5;
+    Open(UserRights::All(), options);
+    EXPECT_EQ(host->Functions().GetDialogTimeout(), 5);
 }
 
 }  // namespace

@@ -12,8 +12,10 @@ ParsedOptions Parse(std::vector<const char*> arguments) {
 }
 
 TEST(DialogOptions, ReadsEveryOptionInBothForms) {
-    const ParsedOptions parsed = Parse({"--object", "DEF", "--index=-2", "--scenario", "s.json", "--user",
-                                        "anna", "--language", "DE", "--trace", "--screenshot", "out.png"});
+    const ParsedOptions parsed =
+        Parse({"--object", "DEF", "--index=-2", "--scenario", "s.json", "--user", "anna", "--language", "DE",
+               "--trace", "--screenshot", "out.png", "--select-row", "2", "--screenshot-error", "Failed",
+               "--dialog-timeout=5"});
     ASSERT_TRUE(parsed.error.empty()) << parsed.error;
     EXPECT_EQ(parsed.options.objectName, "DEF");
     EXPECT_EQ(parsed.options.index, -2);
@@ -22,6 +24,9 @@ TEST(DialogOptions, ReadsEveryOptionInBothForms) {
     EXPECT_EQ(parsed.options.language, "DE");
     EXPECT_TRUE(parsed.options.trace);
     EXPECT_EQ(*parsed.options.screenshotFile, "out.png");
+    EXPECT_EQ(*parsed.options.selectRow, 2);
+    EXPECT_EQ(*parsed.options.screenshotError, "Failed");
+    EXPECT_EQ(*parsed.options.dialogTimeout, 5);
 }
 
 TEST(DialogOptions, RightsGrantOnlyWhatTheyNameAndBadInputIsAClearError) {
@@ -35,6 +40,8 @@ TEST(DialogOptions, RightsGrantOnlyWhatTheyNameAndBadInputIsAClearError) {
     for (const auto& [arguments, message] : std::vector<std::pair<std::vector<const char*>, const char*>>{
              {{"--index", "ten"}, "--index"},
              {{"--index", "10x"}, "--index"},
+             {{"--dialog-timeout", "0"}, "--dialog-timeout"},
+             {{"--select-row", "0"}, "--select-row"},
              {{"--rights", "admin"}, "--rights"},
              {{"--object"}, "needs a value"},
              {{"--colour", "red"}, "unknown option"},

@@ -33,8 +33,8 @@ class DialogTest : public ::testing::Test {
   protected:
     DialogTest() { trovane::testing::TestApplication(); }
 
-    void Open() {
-        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
+    void Open(const DialogOptions& options = {}) {
+        host = std::make_unique<DialogHost>(options, platform.services);
         window = std::make_unique<DialogWindow>(*host, platform);
         window->Start();
         window->show();
@@ -182,11 +182,25 @@ TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
     EXPECT_FALSE(error->isVisible());
 }
 
+// Left alone, the error dialog goes away by itself after the dialog time-out, here one second.
+TEST_F(DialogTest, TheErrorDialogClosesByItselfWhenTheOperatorLeavesItAlone) {
+    DialogOptions options;
+    options.dialogTimeout = 1;
+    Open(options);
+    CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
+               {Variant("Late answer")});
+    qt::FormView* error = window->ErrorDialogView();
+    ASSERT_NE(error, nullptr);
+    EXPECT_TRUE(error->isVisible());
+    QTRY_VERIFY_WITH_TIMEOUT(window->ErrorDialogView() == nullptr || !error->isVisible(), 5000);
+}
+
 // The panels stand on their pages, the dialog fits 1280x800, the host's window position is the
 // window's in twips, and the screenshot is a picture of the whole dialog.
 TEST_F(DialogTest, PanelsStandOnTheirPagesAndTheDialogFitsASmallScreen) {
     Open();
-    EXPECT_EQ(window->PageNames(), (std::vector<std::string>{"alarms", "operation", "substitution", "tagout"}));
+    EXPECT_EQ(window->PageNames(),
+              (std::vector<std::string>{"alarms", "operation", "substitution", "tagout"}));
     EXPECT_TRUE(window->ShowPage("alarms"));
     EXPECT_FALSE(window->ShowPage("communication")) << "a page without panels is not shown";
     auto* pages = window->findChild<QTabWidget*>("tabPages");
