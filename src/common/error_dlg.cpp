@@ -99,9 +99,16 @@ bool ErrorDlg::OperatorIsActive() {
     }
 }
 
+bool ErrorDlg::UsesServicesOf(const PlatformServices& platform) const {
+    return services.files == platform.files && services.windows == platform.windows &&
+           services.clock == platform.clock;
+}
+
 ErrorDlg& SharedErrorDlg(const PlatformServices& platform) {
     std::shared_ptr<ErrorDlg>& slot = SharedSlot();
-    if (!slot) {
+    // A closed dialog shows nothing, so one made for another platform is replaced: a host that opens
+    // another control dialog in the same process gets that dialog's files, windows and clock.
+    if (!slot || (!slot->Loaded() && !slot->UsesServicesOf(platform))) {
         slot = std::make_shared<ErrorDlg>(platform);
         SetSharedErrorDialogUnloader(UnloadAndRelease);
     }

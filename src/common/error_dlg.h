@@ -26,11 +26,11 @@
 #include <string>
 
 #include "common/common_functions.h"
+#include "core/api_begin.h"
 #include "platform/controls/command_button.h"
 #include "platform/controls/form.h"
 #include "platform/controls/label.h"
 #include "platform/controls/timer.h"
-#include "core/api_begin.h"
 
 namespace trovane {
 
@@ -58,6 +58,9 @@ class ErrorDlg : public Form {
     int32_t timeoutSeconds = 0;
     int32_t remainingTicks = 0;
 
+    // Whether it works through these services (the same files, windows and clock).
+    bool UsesServicesOf(const PlatformServices& platform) const;
+
   private:
     void OnLoad();
     void OnTick();
@@ -68,8 +71,8 @@ class ErrorDlg : public Form {
     std::string errorText;
 };
 
-// The shared dialog, created with the caller's platform services when there is none. Creating it
-// registers it with MakeCleanup.
+// The shared dialog, created with the caller's platform services when there is none, or when the
+// closed one works through another platform's. Creating it registers it with MakeCleanup.
 ErrorDlg& SharedErrorDlg(const PlatformServices& platform);
 // The shared dialog if it exists, else nullptr.
 ErrorDlg* ExistingErrorDlg();

@@ -87,6 +87,19 @@ TEST_F(ErrorDlgTest, CountdownEndsOnTimeUnlessTheOperatorIsActive) {
     EXPECT_EQ(TicksUntilClosed(dialog, 10), 3);
 }
 
+// One process, two hosts: an open dialog stays where it is; a closed one is made again on the next
+// caller's platform, so its time-out and activity come from that caller's files and windows.
+TEST_F(ErrorDlgTest, AClosedDialogIsMadeAgainForAnotherPlatformAnOpenOneIsKept) {
+    PlatformServices other = platform;
+    other.files = std::make_shared<MemoryFiles>();
+    ErrorDlg& first = SharedErrorDlg(platform);
+    first.Show();
+    EXPECT_TRUE(SharedErrorDlg(other).UsesServicesOf(platform));
+    first.Unload();
+    EXPECT_TRUE(SharedErrorDlg(platform).UsesServicesOf(platform)) << "the same platform keeps it";
+    EXPECT_TRUE(SharedErrorDlg(other).UsesServicesOf(other));
+}
+
 // ShowError2: presented (and so loaded, with its handle), then ordered, then shown.
 TEST_F(ErrorDlgTest, ShowError2OrdersThePresentedDialogBeforeShowingItOwnedOnlyWithTheOwnerFlag) {
     ErrorDlg& dialog = SharedErrorDlg(platform);
