@@ -27,4 +27,16 @@ std::string WithQuotesDoubled(std::string_view text) {
     return Doubled(Doubled(text, '"'), '\'');
 }
 
+std::string WithLineBreaksSpliced(std::string_view text) {
+    std::string spliced;
+    spliced.reserve(text.size());
+    for (const char c : text) {
+        if (c == '\n')
+            spliced += "\" + ascii(10) + \"";
+        else if (c != '\r')
+            spliced += c;
+    }
+    return spliced;
+}
+
 }  // namespace trovane

@@ -22,6 +22,10 @@ std::string ObjectReferenceText(std::string_view logicalName, int32_t index);
 // Every double quote doubled, then every apostrophe doubled.
 std::string WithQuotesDoubled(std::string_view text);
 
+// The server's literals end at the end of a line, so a line feed inside one is spliced in as
+// `" + ascii(10) + "` and carriage returns are dropped; text without either is unchanged.
+std::string WithLineBreaksSpliced(std::string_view text);
+
 }  // namespace trovane
 
 #include "core/api_end.h"

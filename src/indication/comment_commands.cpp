@@ -1,5 +1,6 @@
 #include "indication/comment_commands.h"
 
+#include "common/command_text.h"
 #include "core/error.h"
 
 namespace trovane {
@@ -82,7 +83,7 @@ std::string SetCommentCommand(std::string_view logicalName, std::string_view use
     command += "#'TIME_STRING'#";
     command += doubledComment;
     command += "\"";
-    return Replaced(Replaced(command, '\n', "\" + ascii(10) + \""), '\r', "");
+    return WithLineBreaksSpliced(command);
 }
 
 std::string StatusNameCommand(int32_t status) {

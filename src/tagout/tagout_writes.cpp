@@ -57,7 +57,8 @@ void Tagout::EditTagoutInSDB(int16_t position) {
         const std::string name = model.AttrInstValue(attribute, "Name");
         const std::string value = EditedValue(position, attribute, name);
         if (colChangedAttrNames->Find(name) == -1) continue;
-        const std::string sent = WithQuotesDoubled(value);
+        // A multi-line value (the comment) keeps its lines: see WithLineBreaksSpliced.
+        const std::string sent = WithLineBreaksSpliced(WithQuotesDoubled(value));
         Write(EditAttributeValueCommand(logicalName, baseIndex, key, name, sent));
         if (TriggersActionMethod(name))
             Write(ActionMethodCommand(ActionMethodOf(name), logicalName, baseIndex, sent, key));

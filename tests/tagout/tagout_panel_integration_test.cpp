@@ -70,7 +70,7 @@ TEST_F(TagoutPanelOnDemoServer, OperatorAddsEditsAndRemovesTheirOwnTagoutButNotA
     Field<TextBox>("TAG_TEXT").SetText("Feeder 2 earthed");
     panel->EditDialog()->TabStrip1.ClickTab(2);
     Field<ComboBox>("TAG_REPR").SetListIndex(2);
-    Field<TextBox>("COMMENT").SetText("Don't \"close\"");
+    Field<TextBox>("COMMENT").SetText("Don't \"close\"\r\nSecond line");
     Field<CheckBox>("AM_LOCAL01").SetValue(1);
     panel->EditDialog()->btnOK->Click();
     ASSERT_EQ(Server().active.size(), 2u);
@@ -81,7 +81,7 @@ TEST_F(TagoutPanelOnDemoServer, OperatorAddsEditsAndRemovesTheirOwnTagoutButNotA
                                                          {"PRIORITY", "High"},
                                                          {"TAG_TEXT", "Feeder 2 earthed"},
                                                          {"TAG_REPR", "Danger"},
-                                                         {"COMMENT", "Don't \"close\""},
+                                                         {"COMMENT", "Don't \"close\"\nSecond line"},
                                                          {"AM_LOCAL01", "X"},
                                                          {"AM_CONTROL_BLOCK", "-"},
                                                          {"ORIGIN", "DEMO"},
