@@ -17,6 +17,8 @@ run_suite() {
 }
 
 run_suite build/test
+# The gallery of the main job, drawn by the dialog just built: every object kind and dialog opens.
+TROVANE_DIALOG="$PWD/build/test/apps/trovane-dialog/trovane-dialog" bash scripts/gallery.sh build/test/gallery
 # The library as a host project uses it: installed (find_package) and as a source tree (add_subdirectory).
 bash scripts/consumer_test.sh build/test
 # The Debian packages from the same build: contents, dependencies, lintian, the dialog unpacked.
