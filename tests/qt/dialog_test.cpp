@@ -18,11 +18,9 @@
 #include "alarms/alarms.h"
 #include "blocking/blocking.h"
 #include "core/conversions.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "platform/pe_resource_files.h"
 #include "screenshot.h"
-#include "support/qt_application.h"
+#include "support/control_dialog_fixture.h"
 #include "support/qt_list.h"
 
 namespace trovane::dialog {
@@ -31,54 +29,17 @@ namespace {
 // Rows of the demo object's alarm list, in server order.
 constexpr int kBreakerTripRow = 1;  // ABC:11, persisting and unacknowledged
 
-class DialogTest : public ::testing::Test {
+class DialogTest : public testing::ControlDialogTest {
   protected:
-    DialogTest() { trovane::testing::TestApplication(); }
-
-    void Open(const DialogOptions& options = {}) {
-        host = std::make_unique<DialogHost>(options, platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        window->Settle();
-    }
-
-    QWidget* Widget(const char* form, const char* control) const {
-        qt::FormView* view = window->ViewOf(form);
-        return view ? view->WidgetOf(control) : nullptr;
-    }
-    QTreeView* AlarmList() const { return qobject_cast<QTreeView*>(Widget("Alarms", "ListView1")); }
+    QTreeView* AlarmList() const { return Widget<QTreeView>("Alarms", "ListView1"); }
     std::string AlarmCell(int row, int column) const {
         return AlarmList()->model()->index(row, column).data().toString().toStdString();
     }
-    QCheckBox* BlockingBox(const char* name) const {
-        return qobject_cast<QCheckBox*>(Widget("Blocking", name));
-    }
-    QPushButton* Button(const char* form, const char* name) const {
-        return qobject_cast<QPushButton*>(Widget(form, name));
-    }
+    QCheckBox* BlockingBox(const char* name) const { return Widget<QCheckBox>("Blocking", name); }
+    QPushButton* Button(const char* form, const char* name) const { return Widget<QPushButton>(form, name); }
     Alarms& AlarmPanel() const { return *host->Panels().FindAs<Alarms>(kAlarmSite); }
     Blocking& BlockingPanel() const { return *host->Panels().FindAs<Blocking>(kBlockingSite); }
 
-    void ClickRow(int row) {
-        QTreeView* list = AlarmList();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, testing::CentreOfRow(*list, row));
-    }
-    static void Click(QWidget* widget) {
-        ASSERT_NE(widget, nullptr);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->width() / 2, widget->height() / 2));
-    }
-    static void Tick(QCheckBox* box) {
-        ASSERT_NE(box, nullptr);
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(box->height() / 2, box->height() / 2));
-    }
-
-    Variant Ask(const std::string& command) {
-        int32_t status = 0;
-        Variant result = host->Server().Execute(command, status);
-        EXPECT_EQ(status, 0) << command;
-        return result;
-    }
     // The blocking value of one kind (1 update ... 6 action) of one object, as the server holds it.
     int32_t ServerBlocking(int32_t index, int32_t kind) {
         const Variant states = Ask("#return do(BGU_BLOCK:C, \"GET_BLOCKING_STATE\", (\"ABC\"," +
@@ -96,10 +57,6 @@ class DialogTest : public ::testing::Test {
         }
         return "";
     }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
 };
 
 // Opens with the server's alarms and blockings; a clicked row switches the blocking panel to its
@@ -118,7 +75,7 @@ TEST_F(DialogTest, OpensSelectsAnAlarmAndAcknowledgesItThenAll) {
     EXPECT_FALSE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
     EXPECT_TRUE(window->windowTitle().startsWith("Control dialog"));
 
-    ClickRow(kBreakerTripRow);
+    ClickRow("Alarms", kBreakerTripRow);
     EXPECT_EQ(BlockingPanel().logicalName, "ABC");
     EXPECT_EQ(BlockingPanel().baseIndex, 11);
     EXPECT_TRUE(BlockingBox("chkBlockSelectedSignal")->isEnabled());
@@ -138,7 +95,7 @@ TEST_F(DialogTest, OpensSelectsAnAlarmAndAcknowledgesItThenAll) {
 // Cancel restores the shown state and writes nothing; OK writes the ticked kind for the whole object.
 TEST_F(DialogTest, TickingABlockingThenCancelOrApply) {
     Open();
-    Tick(BlockingBox("Check1"));
+    ClickBox(BlockingBox("Check1"));
     EXPECT_TRUE(Button("Blocking", "btnOK")->isEnabled());
     EXPECT_FALSE(Button("Blocking", "btnRefresh")->isEnabled());
     Click(Button("Blocking", "btnCancel"));
@@ -146,7 +103,7 @@ TEST_F(DialogTest, TickingABlockingThenCancelOrApply) {
     EXPECT_FALSE(Button("Blocking", "btnOK")->isEnabled());
     EXPECT_FALSE(Button("Blocking", "btnCancel")->isEnabled());
     EXPECT_EQ(ServerBlocking(10, 1), 0);
-    Tick(BlockingBox("Check1"));
+    ClickBox(BlockingBox("Check1"));
     Click(Button("Blocking", "btnOK"));
     EXPECT_EQ(ServerBlocking(10, 1), 1);
     EXPECT_EQ(ServerBlocking(12, 1), 1);
@@ -157,10 +114,10 @@ TEST_F(DialogTest, TickingABlockingThenCancelOrApply) {
 
 TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
     Open();
-    ClickRow(kBreakerTripRow);
-    Tick(BlockingBox("chkBlockSelectedSignal"));
+    ClickRow("Alarms", kBreakerTripRow);
+    ClickBox(BlockingBox("chkBlockSelectedSignal"));
     ASSERT_EQ(BlockingBox("chkBlockSelectedSignal")->checkState(), Qt::Checked);
-    Tick(BlockingBox("Check1"));
+    ClickBox(BlockingBox("Check1"));
     Click(Button("Blocking", "btnOK"));
     EXPECT_EQ(ServerBlocking(11, 1), 1);
     EXPECT_EQ(ServerBlocking(12, 1), 0);
@@ -171,8 +128,7 @@ TEST_F(DialogTest, ApplyToSelectedBlocksOnlyTheSelectedSignal) {
 
 TEST_F(DialogTest, TheErrorDialogOpensAsAWindowOfItsOwn) {
     Open();
-    CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
-               {Variant("Command failed")});
+    ShowError("Command failed");
     qt::FormView* error = window->ErrorDialogView();
     ASSERT_NE(error, nullptr);
     EXPECT_TRUE(error->isVisible());
@@ -214,8 +170,7 @@ TEST_F(DialogTest, TheErrorDialogClosesByItselfWhenTheOperatorLeavesItAlone) {
     DialogOptions options;
     options.dialogTimeout = 1;
     Open(options);
-    CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
-               {Variant("Late answer")});
+    ShowError("Late answer");
     qt::FormView* error = window->ErrorDialogView();
     ASSERT_NE(error, nullptr);
     EXPECT_TRUE(error->isVisible());

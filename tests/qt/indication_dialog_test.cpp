@@ -1,7 +1,6 @@
 // The indication bar and its comment dialog driven through the real widgets of the control dialog,
 // against the in-process demo server.
 
-#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -12,50 +11,22 @@
 #include <QTest>
 
 #include "core/conversions.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "indication/indication_bar.h"
-#include "support/qt_application.h"
+#include "support/control_dialog_fixture.h"
 
 namespace trovane::dialog {
 namespace {
 
-class IndicationDialogTest : public ::testing::Test {
+class IndicationDialogTest : public testing::ControlDialogTest {
   protected:
-    IndicationDialogTest() { trovane::testing::TestApplication(); }
-
-    void Open(UserRights rights = UserRights::All()) {
-        DialogOptions options;
-        options.rights = rights;
-        host = std::make_unique<DialogHost>(options, platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        window->Settle();
-    }
-
     IndicationBar& Bar() const { return *host->Panels().FindAs<IndicationBar>(kIndicationSite); }
     QWidget* BarWidget(const char* name) const { return window->ViewOf("IndicationBar")->WidgetOf(name); }
-    qt::FormView* CommentWindow() const {
-        const ObjectCommentDialog* dialog = Bar().CommentDialog();
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
-    }
+    qt::FormView* CommentWindow() const { return ViewOfDialog(Bar().CommentDialog()); }
     template <typename W>
     W* CommentWidget(const char* name) const {
         return qobject_cast<W*>(CommentWindow()->WidgetOf(name));
     }
-    std::string ServerComment() {
-        int32_t status = 0;
-        return ToString(host->Server().Execute("#return ABC:PGC", status));
-    }
-    static void Click(QWidget* widget) {
-        ASSERT_NE(widget, nullptr);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->width() / 2, widget->height() / 2));
-    }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
+    std::string ServerComment() { return ToString(Ask("#return ABC:PGC")); }
 };
 
 TEST_F(IndicationDialogTest, TheOperatorRewritesTheCommentInTheDialogAndTheBarShowsTheServersNewValue) {
@@ -96,9 +67,9 @@ TEST_F(IndicationDialogTest, TheOperatorRewritesTheCommentInTheDialogAndTheBarSh
 }
 
 TEST_F(IndicationDialogTest, AnOperatorWithoutAuthorisationCanNeitherEditNorRemove) {
-    UserRights rights = UserRights::All();
-    rights.authorized = false;
-    Open(rights);
+    DialogOptions options;
+    options.rights.authorized = false;
+    Open(options);
     const std::string before = ServerComment();
     Click(BarWidget("btnIndication"));
     ASSERT_NE(CommentWindow(), nullptr);

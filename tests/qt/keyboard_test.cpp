@@ -1,7 +1,6 @@
 // The control dialog worked from the keyboard alone, as control-room operators do: every key goes
 // to the focused widget, and the server's state shows what the keys did.
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,10 +14,8 @@
 #include <QTest>
 
 #include "core/conversions.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "indication/indication_bar.h"
-#include "support/qt_application.h"
+#include "support/control_dialog_fixture.h"
 #include "tagout/tagout.h"
 #include "tagout/tagout_edit_dialog.h"
 #include "tagout_site.h"
@@ -26,14 +23,11 @@
 namespace trovane::dialog {
 namespace {
 
-class KeyboardTest : public ::testing::Test {
+class KeyboardTest : public testing::ControlDialogTest {
   protected:
-    KeyboardTest() {
-        trovane::testing::TestApplication();
-        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
+    // Keys go to the active window only.
+    void SetUp() override {
+        Open();
         window->activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         window->Settle();
@@ -64,10 +58,7 @@ class KeyboardTest : public ::testing::Test {
     }
     QTabWidget* Pages() const { return window->findChild<QTabWidget*>("tabPages"); }
     IndicationBar& Bar() const { return *host->Panels().FindAs<IndicationBar>(kIndicationSite); }
-    qt::FormView* CommentWindow() const {
-        const ObjectCommentDialog* dialog = Bar().CommentDialog();
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
-    }
+    qt::FormView* CommentWindow() const { return ViewOfDialog(Bar().CommentDialog()); }
     // Tab until `reached` holds (within one round); the names passed on the way.
     template <typename Reached>
     std::vector<std::string> TabUntil(Reached reached) {
@@ -80,8 +71,7 @@ class KeyboardTest : public ::testing::Test {
         return passed;
     }
     qt::FormView* TagoutEditWindow() const {
-        const TagoutEditDialog* dialog = host->Panels().FindAs<Tagout>(kTagoutSite)->EditDialog();
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
+        return ViewOfDialog(host->Panels().FindAs<Tagout>(kTagoutSite)->EditDialog());
     }
     // The edit dialog's widget of the attribute `name`.
     QWidget* TagoutField(const std::string& name) const {
@@ -92,14 +82,7 @@ class KeyboardTest : public ::testing::Test {
     int32_t ServerFlag(const char* attribute) {
         return ToInt32(host->Server().Database().Read({"ABC", 10, attribute}));
     }
-    std::string ServerComment() {
-        int32_t status = 0;
-        return ToString(host->Server().Execute("#return ABC:PGC", status));
-    }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
+    std::string ServerComment() { return ToString(Ask("#return ABC:PGC")); }
 };
 
 // The dialog's round: the indication bar, the page's panels in their designed order (the hidden
@@ -211,14 +194,13 @@ TEST_F(KeyboardTest, TheTagoutEditDialogIsWalkedWithTabAndTheCommentTakesLineBre
     EXPECT_EQ(qobject_cast<QPlainTextEdit*>(comment)->toPlainText(), "Line one\nline two");
     Press(Qt::Key_Escape);
     EXPECT_EQ(TagoutEditWindow(), nullptr);
-    EXPECT_EQ(host->Server().Database().FindObject("ABC", 10)->tagouts.active.size(), 1u);
+    EXPECT_EQ(Breaker().tagouts.active.size(), 1u);
 }
 
 // The error dialog's one button is both default and cancel: Enter and Escape each close it.
 TEST_F(KeyboardTest, TheErrorDialogClosesWithEnterOrEscape) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
-        CallMethod(Variant(ObjectRef(host->Container().shared_from_this())), "ShowError",
-                   {Variant("Command failed")});
+        ShowError("Command failed");
         qt::FormView* error = window->ErrorDialogView();
         ASSERT_NE(error, nullptr);
         ASSERT_TRUE(QTest::qWaitForWindowActive(error));

@@ -1,15 +1,12 @@
 // The control dialog laid out by object: for each kind of demo object, the tabs it shows and the
 // panel views on them, built by the real host and window off-screen.
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "dialog_host.h"
-#include "dialog_window.h"
-#include "support/qt_application.h"
+#include "support/control_dialog_fixture.h"
 
 namespace trovane::dialog {
 namespace {
@@ -26,31 +23,23 @@ struct Layout {
     std::vector<std::string> forms;
 };
 
-class ObjectLayoutDialogTest : public ::testing::TestWithParam<Layout> {
-  protected:
-    ObjectLayoutDialogTest() { trovane::testing::TestApplication(); }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-};
+class ObjectLayoutDialogTest : public testing::ControlDialogTest,
+                               public ::testing::WithParamInterface<Layout> {};
 
 TEST_P(ObjectLayoutDialogTest, ShowsOnlyThePanelsThatFitTheObject) {
     const Layout& layout = GetParam();
     DialogOptions options;
     options.objectName = layout.name;
     options.index = layout.index;
-    DialogHost host(options, platform.services);
-    DialogWindow window(host, platform);
-    window.Start();
-    window.show();
-    window.Settle();
+    Open(options);
 
-    EXPECT_EQ(window.PageNames(), layout.pages);
+    EXPECT_EQ(window->PageNames(), layout.pages);
     std::vector<std::string> forms;
     for (const std::string& form : kForms)
-        if (window.ViewOf(form)) forms.push_back(form);
+        if (window->ViewOf(form)) forms.push_back(form);
     EXPECT_EQ(forms, layout.forms);
-    EXPECT_EQ(window.size(), window.sizeHint()) << "the window takes the size of what it shows";
-    window.close();
+    EXPECT_EQ(window->size(), window->sizeHint()) << "the window takes the size of what it shows";
+    window->close();
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -3,7 +3,6 @@
 // dialog or the server in a bad state for the next one is caught here.
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -19,11 +18,8 @@
 #include <QTreeView>
 
 #include "core/conversions.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "indication/indication_bar.h"
-#include "support/qt_application.h"
-#include "support/qt_list.h"
+#include "support/control_dialog_fixture.h"
 #include "tagout/tagout.h"
 #include "tagout/tagout_edit_dialog.h"
 #include "tagout/tagout_removal_dialog.h"
@@ -35,16 +31,9 @@ namespace {
 constexpr int kBreakerTripAlarmRow = 1;     // ABC:11, persisting and unacknowledged
 constexpr int kCurrentSubstitutionRow = 5;  // ABC:15, analog 0..1000
 
-class OperatorRoundTest : public ::testing::Test {
+class OperatorRoundTest : public testing::ControlDialogTest {
   protected:
-    OperatorRoundTest() {
-        trovane::testing::TestApplication();
-        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        window->Settle();
-    }
+    void SetUp() override { Open(); }
 
     // The operator clicks the page's tab.
     void ClickTab(const std::string& page) {
@@ -59,41 +48,20 @@ class OperatorRoundTest : public ::testing::Test {
         ASSERT_EQ(tabs->currentIndex(), tab);
     }
     template <typename W = QWidget>
-    W* Widget(const char* form, const char* control) const {
-        qt::FormView* view = window->ViewOf(form);
-        return view ? qobject_cast<W*>(view->WidgetOf(control)) : nullptr;
-    }
-    template <typename W = QWidget>
     W* DialogWidget(qt::FormView* dialog, const char* control) const {
         return dialog ? qobject_cast<W*>(dialog->WidgetOf(control)) : nullptr;
     }
-    qt::FormView* ViewOfDialog(const Form* dialog) const {
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
-    }
     void ClickRow(const char* form, int row) {
-        auto* list = Widget<QTreeView>(form, "ListView1");
-        ASSERT_NE(list, nullptr);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, trovane::testing::CentreOfRow(*list, row));
+        ControlDialogTest::ClickRow(form, row);
         window->Settle();
     }
-    // Near the left edge, where a check box or option button has its box.
+    // Near the left edge, where a check box or option button has its box; only what the operator
+    // can reach.
     void Click(QWidget* widget) {
         ASSERT_NE(widget, nullptr);
         ASSERT_TRUE(widget->isVisible() && widget->isEnabled()) << widget->objectName().toStdString();
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->height() / 2, widget->height() / 2));
-        window->Settle();
+        ClickBoxAndSettle(widget);
     }
-    Variant Ask(const std::string& command) {
-        int32_t status = 0;
-        Variant result = host->Server().Execute(command, status);
-        EXPECT_EQ(status, 0) << command;
-        return result;
-    }
-    sim::ProcessObject& Breaker() { return *host->Server().Database().FindObject("ABC", 10); }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
 };
 
 TEST_F(OperatorRoundTest, CommentAcknowledgeBlockTagoutSubstituteMoveAndReset) {

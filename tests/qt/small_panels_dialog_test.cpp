@@ -2,7 +2,6 @@
 // widgets of the control dialog, against the in-process demo server.
 
 #include <algorithm>
-#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -15,61 +14,33 @@
 #include <QTest>
 
 #include "core/conversions.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "opcounter/misc_functions.h"
+#include "support/control_dialog_fixture.h"
 #include "support/manual_clock.h"
-#include "support/qt_application.h"
 
 namespace trovane::dialog {
 namespace {
 
-class SmallPanelsDialogTest : public ::testing::Test {
+class SmallPanelsDialogTest : public testing::ControlDialogTest {
   protected:
-    SmallPanelsDialogTest() { trovane::testing::TestApplication(); }
-
     void Open(const std::string& objectName, int32_t index, const std::string& page) {
         DialogOptions options;
         options.objectName = objectName;
         options.index = index;
-        host = std::make_unique<DialogHost>(options, platform.services);
+        ControlDialogTest::Open(options, page);
+    }
+    // The server runs on a clock the test moves, from before the dialog asks it anything.
+    void BeforeStart(DialogHost& opened) override {
         clock.now = MakeDate(2026, 11, 22, 9, 30, 0);
-        host->Server().Database().SetClock(&clock);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        ASSERT_TRUE(window->ShowPage(page));
-        window->Settle();
+        opened.Server().Database().SetClock(&clock);
     }
 
     bool HasPage(const std::string& page) const {
         const auto names = window->PageNames();
         return std::find(names.begin(), names.end(), page) != names.end();
     }
-    template <typename W>
-    W* Widget(const char* form, const char* control) const {
-        qt::FormView* view = window->ViewOf(form);
-        return view ? qobject_cast<W*>(view->WidgetOf(control)) : nullptr;
-    }
-    static void Click(QWidget* widget) {
-        ASSERT_NE(widget, nullptr);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->height() / 2, widget->height() / 2));
-    }
-    void ClickAndSettle(QWidget* widget) {
-        Click(widget);
-        window->Settle();
-    }
-    Variant Ask(const std::string& command) {
-        int32_t status = 0;
-        Variant result = host->Server().Execute(command, status);
-        EXPECT_EQ(status, 0) << command;
-        return result;
-    }
 
     trovane::testing::ManualClock clock;
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
 };
 
 // The breaker's operation page: NCC chosen with the mouse moves the location on the server and the
@@ -82,7 +53,7 @@ TEST_F(SmallPanelsDialogTest, TheBreakerMovesToNccAndItsCounterIsResetAndLimited
     ASSERT_TRUE(station && ncc);
     EXPECT_TRUE(station->isChecked() && ncc->isEnabled());
 
-    ClickAndSettle(ncc);
+    ClickBoxAndSettle(ncc);
     EXPECT_EQ(Ask("#return ABC:PSL10"), Variant(0));
     EXPECT_TRUE(ncc->isChecked());
     EXPECT_TRUE(station->isEnabled() && ncc->isEnabled());
@@ -92,7 +63,7 @@ TEST_F(SmallPanelsDialogTest, TheBreakerMovesToNccAndItsCounterIsResetAndLimited
     auto* set = Widget<QPushButton>("MiscFunctions", "btnSetOpcCntLimit");
     ASSERT_TRUE(count && limit && set);
     EXPECT_EQ(count->text(), "998");
-    ClickAndSettle(Widget<QPushButton>("MiscFunctions", "btnOpCntReset"));
+    ClickBoxAndSettle(Widget<QPushButton>("MiscFunctions", "btnOpCntReset"));
     EXPECT_EQ(Ask("#return ABC:PCV10"), Variant(0));
     EXPECT_EQ(count->text(), "0");
 
@@ -101,7 +72,7 @@ TEST_F(SmallPanelsDialogTest, TheBreakerMovesToNccAndItsCounterIsResetAndLimited
     for (int i = 0; i < 4; ++i) QTest::keyClick(limit, Qt::Key_Backspace);
     QTest::keyClicks(limit, "1500");
     EXPECT_TRUE(set->isEnabled());
-    ClickAndSettle(set);
+    ClickBoxAndSettle(set);
     EXPECT_EQ(Ask("#return ABC:PCL10"), Variant(1500));
     EXPECT_EQ(limit->text(), "1500");
     EXPECT_FALSE(set->isEnabled());
@@ -122,7 +93,7 @@ TEST_F(SmallPanelsDialogTest, TheBaySetToLocalThroughItsControlValuesAllowsNoMor
     ASSERT_EQ(values->currentText(), "Local");
     EXPECT_TRUE(set->isEnabled());
 
-    ClickAndSettle(set);
+    ClickBoxAndSettle(set);
     EXPECT_EQ(Ask("#return DEF:PLV2"), Variant("Local"));
     EXPECT_EQ(shown->text(), "Local");
     EXPECT_FALSE(values->isEnabled());
@@ -144,22 +115,22 @@ TEST_F(SmallPanelsDialogTest, TheStationsButtonsFollowItsLineAndAnUpdateComesBac
     EXPECT_TRUE(dial->isEnabled() && settings->isEnabled());
     EXPECT_FALSE(hangUp->isEnabled() || sync->isEnabled());
 
-    ClickAndSettle(dial);
+    ClickBoxAndSettle(dial);
     EXPECT_FALSE(dial->isEnabled() || sync->isEnabled());
     EXPECT_TRUE(hangUp->isEnabled());
     clock.now = MakeDate(2026, 11, 22, 9, 30, 3);
     window->Settle();
     EXPECT_TRUE(sync->isEnabled() && hangUp->isEnabled());
-    ClickAndSettle(sync);
+    ClickBoxAndSettle(sync);
     EXPECT_EQ(Ask("#return RTU:PSC1"), Variant(1));
 
-    Click(update);
+    ClickBox(update);
     EXPECT_FALSE(update->isEnabled());
     window->Settle();
     EXPECT_EQ(Ask("#return RTU:PUC1"), Variant(1));
     EXPECT_TRUE(update->isEnabled());
 
-    ClickAndSettle(hangUp);
+    ClickBoxAndSettle(hangUp);
     EXPECT_EQ(Ask("#return RTU:PLS1"), Variant(0));
     EXPECT_TRUE(dial->isEnabled());
     EXPECT_FALSE(hangUp->isEnabled() || sync->isEnabled());

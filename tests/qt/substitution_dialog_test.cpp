@@ -1,7 +1,6 @@
 // The substitution page of the control dialog driven through its real widgets, against the
 // in-process demo server.
 
-#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -15,11 +14,9 @@
 #include <QTreeView>
 
 #include "alarms/alarms.h"
-#include "dialog_host.h"
-#include "dialog_window.h"
 #include "panel_sites.h"
 #include "substitution_site.h"
-#include "support/qt_application.h"
+#include "support/control_dialog_fixture.h"
 #include "support/qt_list.h"
 
 namespace trovane::dialog {
@@ -30,42 +27,20 @@ constexpr int kBreakerTripRow = 1;  // ABC:11, binary
 constexpr int kCurrentRow = 5;      // ABC:15, analog 0..1000
 constexpr int kEarthingRow = 6;     // ABC:16, double binary
 
-class SubstitutionDialogTest : public ::testing::Test {
+class SubstitutionDialogTest : public testing::ControlDialogTest {
   protected:
-    SubstitutionDialogTest() {
-        trovane::testing::TestApplication();
-        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        window->Settle();
-        window->ShowPage(kSubstitutionPage);
-        window->Settle();
-    }
+    void SetUp() override { Open({}, kSubstitutionPage); }
 
-    QWidget* Widget(const char* name, int16_t index = -1) const {
-        qt::FormView* view = window->ViewOf("Substitute");
-        return view ? view->WidgetOf(name, index) : nullptr;
-    }
-    QTreeView* List() const { return qobject_cast<QTreeView*>(Widget("ListView1")); }
-    QLineEdit* ValueBox() const { return qobject_cast<QLineEdit*>(Widget("txt_Value")); }
+    QTreeView* List() const { return Widget<QTreeView>("Substitute", "ListView1"); }
+    QLineEdit* ValueBox() const { return Widget<QLineEdit>("Substitute", "txt_Value"); }
     int VisibleStates() const {
         int count = 0;
         for (int16_t index = 0; index < 4; ++index)
-            count += qobject_cast<QRadioButton*>(Widget("opt_Value", index))->isVisible();
+            count += Widget<QRadioButton>("Substitute", "opt_Value", index)->isVisible();
         return count;
     }
-    void ClickRow(int row) {
-        QTest::mouseClick(List()->viewport(), Qt::LeftButton, {},
-                          trovane::testing::CentreOfRow(*List(), row));
-    }
-    static void Click(QWidget* widget) {
-        ASSERT_NE(widget, nullptr);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->height() / 2, widget->height() / 2));
-    }
     Variant Server(int32_t index, const std::string& attribute) {
-        int32_t status = 0;
-        return host->Server().Execute("#return ABC:P" + attribute + std::to_string(index), status);
+        return Ask("#return ABC:P" + attribute + std::to_string(index));
     }
     int32_t AlarmIcon(const std::string& identity) const {
         Alarms& alarms = *host->Panels().FindAs<Alarms>(kAlarmSite);
@@ -74,10 +49,6 @@ class SubstitutionDialogTest : public ::testing::Test {
                 return alarms.ListView1.Item(static_cast<int32_t>(i + 1)).SmallIcon();
         return 0;
     }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
 };
 
 TEST_F(SubstitutionDialogTest, NavigationKeysShowEachSignalsOwnEntry) {
@@ -85,7 +56,7 @@ TEST_F(SubstitutionDialogTest, NavigationKeysShowEachSignalsOwnEntry) {
     ASSERT_NE(list, nullptr);
     ASSERT_EQ(trovane::testing::ShownRows(*list).size(), 10u);
     EXPECT_EQ(trovane::testing::HeaderText(*list, 2), "Substituted");
-    ClickRow(kBreakerTripRow);
+    ClickRow("Substitute", kBreakerTripRow);
     EXPECT_EQ(VisibleStates(), 2);
     EXPECT_FALSE(ValueBox()->isVisible());
     for (int step = kBreakerTripRow; step < kEarthingRow; ++step) QTest::keyClick(list, Qt::Key_Down);
@@ -97,11 +68,11 @@ TEST_F(SubstitutionDialogTest, NavigationKeysShowEachSignalsOwnEntry) {
 }
 
 TEST_F(SubstitutionDialogTest, TypedValueIsFilteredPastedNonNumberRollsBackAndEnterSubstitutes) {
-    ClickRow(kCurrentRow);
-    Click(Widget("Chk_Enabled"));
+    ClickRow("Substitute", kCurrentRow);
+    ClickBox(Widget("Substitute", "Chk_Enabled"));
     QLineEdit* box = ValueBox();
     ASSERT_TRUE(box->isEnabled());
-    Click(box);  // selects the whole value
+    ClickBox(box);  // selects the whole value
     QTest::keyClicks(box, "x1-2a.5");
     EXPECT_EQ(box->text(), "12.5") << "the letters and the minus inside the number never appear";
     box->selectAll();

@@ -2,7 +2,6 @@
 // demo server: the edit dialog's run-time fields in a real tab widget, typed into and clicked, and
 // the removal dialog's modal confirmation.
 
-#include <memory>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,10 +17,7 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "dialog_host.h"
-#include "dialog_window.h"
-#include "support/qt_application.h"
-#include "support/qt_list.h"
+#include "support/control_dialog_fixture.h"
 #include "tagout/tagout.h"
 #include "tagout/tagout_edit_dialog.h"
 #include "tagout/tagout_removal_dialog.h"
@@ -30,32 +26,17 @@
 namespace trovane::dialog {
 namespace {
 
-class TagoutDialogTest : public ::testing::Test {
+class TagoutDialogTest : public testing::ControlDialogTest {
   protected:
-    TagoutDialogTest() {
-        trovane::testing::TestApplication();
-        host = std::make_unique<DialogHost>(DialogOptions(), platform.services);
-        window = std::make_unique<DialogWindow>(*host, platform);
-        window->Start();
-        window->show();
-        window->Settle();
-        window->ShowPage(kTagoutPage);
-        window->Settle();
-    }
+    void SetUp() override { Open({}, kTagoutPage); }
 
     Tagout& Panel() const { return *host->Panels().FindAs<Tagout>(kTagoutSite); }
     template <typename W = QWidget>
     W* PanelWidget(const char* name) const {
-        return qobject_cast<W*>(window->ViewOf("Tagout")->WidgetOf(name));
+        return Widget<W>("Tagout", name);
     }
-    qt::FormView* EditWindow() const {
-        const TagoutEditDialog* dialog = Panel().EditDialog();
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
-    }
-    qt::FormView* RemovalWindow() const {
-        const TagoutRemovalDialog* dialog = Panel().RemovalDialog();
-        return dialog ? platform.presenter->ViewOf(*dialog) : nullptr;
-    }
+    qt::FormView* EditWindow() const { return ViewOfDialog(Panel().EditDialog()); }
+    qt::FormView* RemovalWindow() const { return ViewOfDialog(Panel().RemovalDialog()); }
     // The edit dialog's widget of the attribute `name`.
     template <typename W>
     W* Field(const std::string& name) const {
@@ -67,25 +48,13 @@ class TagoutDialogTest : public ::testing::Test {
     W* EditWidget(const char* name, int16_t index = -1) const {
         return qobject_cast<W*>(EditWindow()->WidgetOf(name, index));
     }
-    void ClickRow(int row) {
-        auto* list = PanelWidget<QTreeView>("ListView1");
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, trovane::testing::CentreOfRow(*list, row));
-    }
-    static void Click(QWidget* widget) {
-        ASSERT_NE(widget, nullptr);
-        QTest::mouseClick(widget, Qt::LeftButton, {}, QPoint(widget->width() / 2, widget->height() / 2));
-    }
     static void Retype(QLineEdit* box, const char* text) {
         ASSERT_NE(box, nullptr);
         box->setFocus();
         QTest::keyClick(box, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(box, text);
     }
-    sim::ObjectTagouts& Server() { return host->Server().Database().FindObject("ABC", 10)->tagouts; }
-
-    qt::QtPlatform platform = qt::MakeQtPlatform();
-    std::unique_ptr<DialogHost> host;
-    std::unique_ptr<DialogWindow> window;
+    sim::ObjectTagouts& Server() { return Breaker().tagouts; }
 };
 
 TEST_F(TagoutDialogTest, OperatorAddsATagoutOfEveryTypeEditsItAndRemovesItAfterConfirming) {
@@ -126,9 +95,7 @@ TEST_F(TagoutDialogTest, OperatorAddsATagoutOfEveryTypeEditsItAndRemovesItAfterC
     EXPECT_FALSE(owner->isVisible());
     Field<QPlainTextEdit>("COMMENT")->setFocus();
     QTest::keyClicks(Field<QPlainTextEdit>("COMMENT"), "Don't \"close\"");
-    auto* localBlock = Field<QCheckBox>("AM_LOCAL01");
-    QTest::mouseClick(localBlock, Qt::LeftButton, {},
-                      QPoint(localBlock->height() / 2, localBlock->height() / 2));
+    ClickBox(Field<QCheckBox>("AM_LOCAL01"));
     Click(EditWidget<QPushButton>("btnOK"));
     window->Settle();
     EXPECT_EQ(EditWindow(), nullptr);
@@ -160,9 +127,9 @@ TEST_F(TagoutDialogTest, OperatorAddsATagoutOfEveryTypeEditsItAndRemovesItAfterC
     EXPECT_EQ(edited.values, added.values);
 
     // Someone else's tagout cannot be edited; one's own is removed after the modal confirmation.
-    ClickRow(0);
+    ClickRow("Tagout", 0);
     EXPECT_FALSE(PanelWidget("btnEdit")->isEnabled());
-    ClickRow(1);
+    ClickRow("Tagout", 1);
     Click(PanelWidget("btnRemove"));
     window->Settle();
     ASSERT_NE(RemovalWindow(), nullptr);
