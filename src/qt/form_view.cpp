@@ -151,13 +151,11 @@ void FormView::ApplyTabOrder() {
 // A label with an access key ("&Name") hands the focus to the control after it in tab order, as
 // the classic label does; Qt shows the key underlined only on a label that has such a buddy.
 void FormView::ShowAccessibleNames() {
-    for (const auto& [control, bound] : bindings)
-        if (QWidget* widget = bound.binding->View())
-            widget->setAccessibleName(ToQString(AccessibleName(*control)));
     QLabel* label = nullptr;
-    for (const Control* control : form->TabOrder()) {
+    for (const auto& [control, name] : AccessibleNames(*form)) {
         QWidget* widget = WidgetOf(*control);
         if (!widget) continue;
+        widget->setAccessibleName(ToQString(name));
         if (label && (widget->focusPolicy() & Qt::TabFocus)) {
             label->setBuddy(widget);
             label = nullptr;

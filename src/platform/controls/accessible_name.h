@@ -8,6 +8,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/api_begin.h"
 #include "platform/controls/control.h"
@@ -16,6 +17,15 @@ namespace trovane {
 
 std::string WithoutMnemonic(std::string_view caption);
 std::string AccessibleName(const Control& control);
+
+class Form;
+struct NamedControl {
+    const Control* control;
+    std::string name;
+};
+// Every control of the form with its name, in tab order, from one pass: a caption changes on every
+// notification a label shows, so the names are worked out once per change, not once per control.
+std::vector<NamedControl> AccessibleNames(const Form& form);
 
 }  // namespace trovane
 
