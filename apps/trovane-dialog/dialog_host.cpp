@@ -11,10 +11,14 @@
 namespace trovane::dialog {
 
 DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platformIn)
+    : DialogHost(optionsIn, std::move(platformIn), LoadDialogDatabase(optionsIn)) {
+}
+
+DialogHost::DialogHost(const DialogOptions& optionsIn, PlatformServices platformIn,
+                       std::unique_ptr<sim::ProcessDatabase> database)
     : options(optionsIn), platform(std::move(platformIn)) {
     if (options.dialogTimeout)
         platform.files = std::make_shared<FrameWindowOverride>(platform.files, *options.dialogTimeout);
-    auto database = LoadDialogDatabase(options);
     if (!options.installationRoot.empty()) database->App().systemRoot = options.installationRoot;
     auto server = std::make_shared<sim::SimulatedServer>(std::move(database));
     application = server->Database().App().number;

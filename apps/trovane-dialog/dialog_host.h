@@ -27,6 +27,9 @@ class DialogHost {
   public:
     // Loads the scenario (the built-in demo when the options name none); throws on a bad scenario.
     DialogHost(const DialogOptions& options, PlatformServices platform);
+    // On a database already loaded from the options' scenario (by a caller that looked into it first).
+    DialogHost(const DialogOptions& options, PlatformServices platform,
+               std::unique_ptr<sim::ProcessDatabase> database);
     ~DialogHost();
     DialogHost(const DialogHost&) = delete;
     DialogHost& operator=(const DialogHost&) = delete;

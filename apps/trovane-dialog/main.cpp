@@ -28,7 +28,8 @@ void ChooseOffscreenWhenThereIsNoDisplay(bool screenshot) {
     if (screenshot || !hasDisplay) setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }
 
-int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
+int Run(int argc, char** argv, trovane::dialog::DialogOptions options,
+        std::unique_ptr<trovane::sim::ProcessDatabase> database) {
     using namespace trovane;
     QApplication application(argc, argv);
     QApplication::setApplicationName("trovane-dialog");
@@ -37,7 +38,7 @@ int Run(int argc, char** argv, trovane::dialog::DialogOptions options) {
     platform.services.locale = std::make_shared<SystemLocale>();
     options.installationRoot = dialog::LocalServerRoot(QCoreApplication::applicationFilePath().toStdString());
 
-    dialog::DialogHost host(options, platform.services);
+    dialog::DialogHost host(options, platform.services, std::move(database));
     dialog::DialogWindow window(host, platform);
     window.Start();
     if (options.page && !window.ShowPage(*options.page)) {
@@ -100,9 +101,10 @@ int main(int argc, char** argv) {
     else if (auto sink = TraceSinkFromEnvironment())
         SetTraceSink(std::move(sink));
     // The scenario is read before Qt starts: listing it needs no display, and a dialog for an object
-    // the scenario lacks would be an empty window.
+    // the scenario lacks would be an empty window. The dialog then works on what was read.
+    std::unique_ptr<sim::ProcessDatabase> database;
     try {
-        const auto database = dialog::LoadDialogDatabase(parsed.options);
+        database = dialog::LoadDialogDatabase(parsed.options);
         if (parsed.options.listObjects) {
             std::cout << dialog::ObjectListing(*database);
             return 0;
@@ -119,7 +121,7 @@ int main(int argc, char** argv) {
     }
     ChooseOffscreenWhenThereIsNoDisplay(parsed.options.screenshotFile.has_value());
     try {
-        return Run(argc, argv, parsed.options);
+        return Run(argc, argv, parsed.options, std::move(database));
     } catch (const std::exception& failure) {
         std::cerr << "trovane-dialog: " << failure.what() << '\n';
         return 1;

@@ -70,10 +70,16 @@ const DialogPage* FindDialogPage(std::string_view name) {
     return nullptr;
 }
 
+std::string JoinedPageNames(const std::vector<std::string>& names) {
+    std::string joined;
+    for (const std::string& name : names) joined += (joined.empty() ? "" : ", ") + name;
+    return joined;
+}
+
 std::string DialogPageNames() {
-    std::string names;
-    for (const DialogPage& page : DialogPages()) names += (names.empty() ? "" : ", ") + page.name;
-    return names;
+    std::vector<std::string> names;
+    for (const DialogPage& page : DialogPages()) names.push_back(page.name);
+    return JoinedPageNames(names);
 }
 
 // The alarm list comes first, above the blocking panel on its page; its selection drives the

@@ -28,6 +28,8 @@ const std::vector<DialogPage>& DialogPages();
 const DialogPage* FindDialogPage(std::string_view name);
 // "alarms, ...", for messages.
 std::string DialogPageNames();
+// "alarms, operation": names as the dialog writes them in its messages and its object listing.
+std::string JoinedPageNames(const std::vector<std::string>& names);
 // The area above the pages (the indication bar's place).
 inline constexpr const char* kTopArea = "";
 

@@ -21,9 +21,7 @@ struct ListedObject {
 };
 
 std::string Joined(const std::vector<std::string>& names) {
-    std::string joined;
-    for (const std::string& name : names) joined += (joined.empty() ? "" : ", ") + name;
-    return joined.empty() ? "-" : joined;
+    return names.empty() ? "-" : JoinedPageNames(names);
 }
 
 std::string PaddedRight(const std::string& text, size_t width) {
